@@ -1,0 +1,29 @@
+# Compile settings that every target of the project shares: link to kesto_compile.
+add_library(kesto_compile INTERFACE)
+target_compile_features(kesto_compile INTERFACE cxx_std_20)
+set(CMAKE_CXX_EXTENSIONS OFF)
+target_include_directories(kesto_compile INTERFACE ${PROJECT_SOURCE_DIR})
+
+# A fused multiply-add rounds once where the code rounds twice, and x87 arithmetic keeps
+# excess precision: either would make the printed dots depend on the machine.
+target_compile_options(kesto_compile INTERFACE -ffp-contract=off)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(i[3-6]86|x86_64|AMD64)$" AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+    target_compile_options(kesto_compile INTERFACE -msse2 -mfpmath=sse)
+endif()
+
+if(KESTO_DEVELOPER)
+    target_compile_options(kesto_compile INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wformat=2
+        -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Wundef -Werror)
+endif()
+
+if(KESTO_SANITIZE)
+    target_compile_options(kesto_compile INTERFACE
+        -fsanitize=${KESTO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(kesto_compile INTERFACE -fsanitize=${KESTO_SANITIZE})
+endif()
+
+if(KESTO_COVERAGE)
+    target_compile_options(kesto_compile INTERFACE --coverage -O0)
+    target_link_options(kesto_compile INTERFACE --coverage)
+endif()

@@ -1,0 +1,29 @@
+# libcups and libcupsimage as the targets kesto_cups and kesto_cupsimage, and the folders
+# of the CUPS installation. cups-config knows them where CUPS lives outside the usual places.
+find_program(CUPS_CONFIG cups-config REQUIRED)
+
+function(kesto_cups_config variable)
+    execute_process(COMMAND ${CUPS_CONFIG} ${ARGN}
+        OUTPUT_VARIABLE output OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    set(${variable} "${output}" PARENT_SCOPE)
+endfunction()
+
+kesto_cups_config(KESTO_CUPS_SERVERBIN --serverbin)
+kesto_cups_config(KESTO_CUPS_DATADIR --datadir)
+
+find_path(CUPS_INCLUDE_DIR cups/raster.h REQUIRED)
+find_library(CUPS_LIBRARY cups REQUIRED)
+find_library(CUPSIMAGE_LIBRARY cupsimage REQUIRED)
+
+add_library(kesto_cups INTERFACE)
+target_include_directories(kesto_cups SYSTEM INTERFACE ${CUPS_INCLUDE_DIR})
+target_link_libraries(kesto_cups INTERFACE ${CUPS_LIBRARY})
+
+add_library(kesto_cupsimage INTERFACE)
+target_link_libraries(kesto_cupsimage INTERFACE ${CUPSIMAGE_LIBRARY} kesto_cups)
+
+# CUPS marks its whole PPD interface as deprecated, and a driver with queue descriptions cannot
+# do without it: only the files named here may call it.
+function(kesto_uses_ppd_interface)
+    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -Wno-deprecated-declarations)
+endfunction()
