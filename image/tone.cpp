@@ -1,0 +1,51 @@
+#include <algorithm>
+#include <array>
+
+#include "image/raster_image.h"
+
+namespace {
+
+// Single precision, each step rounded, as the printed dots depend on it.
+std::uint8_t lightLevel(int level, float offset, float slope) {
+    float value = static_cast<float>(level - 128) * slope;
+    value = value + offset;
+    value = value + 0.5F;
+    // Clamping before the truncation keeps huge values inside the range of int.
+    return static_cast<std::uint8_t>(std::clamp(value, 0.0F, 255.0F));
+}
+
+}  // namespace
+
+bool RasterImage::Light(int brightness, int contrast) {
+    if (!dib) {
+        return false;
+    }
+    // Wide sums, so that no argument overflows.
+    const float slope = static_cast<float>(std::int64_t{contrast} + 100) / 100.0F;
+    const auto offset = static_cast<float>(std::int64_t{brightness} + 128);
+    std::array<std::uint8_t, 256> table{};
+    for (int i = 0; i < 256; ++i) {
+        table[static_cast<std::size_t>(i)] = lightLevel(i, offset, slope);
+    }
+    return Lut(table.data());
+}
+
+bool RasterImage::Lut(const std::uint8_t* table) {
+    if (!dib || table == nullptr) {
+        return false;
+    }
+    for (std::int64_t y = 0; y < header.biHeight; ++y) {
+        for (std::int64_t x = 0; x < header.biWidth; ++x) {
+            BlindSetPixelIndex(x, y, table[BlindGetPixelIndex(x, y)]);
+        }
+    }
+    return true;
+}
+
+void RasterImage::Negative() {
+    if (!dib) {
+        return;
+    }
+    std::transform(info.bits, info.bits + header.biSizeImage, info.bits,
+                   [](std::uint8_t byte) { return static_cast<std::uint8_t>(~byte); });
+}
