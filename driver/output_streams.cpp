@@ -1,0 +1,40 @@
+#include <cstdarg>
+
+#include "driver/kesto_printer.h"
+
+// The results say nothing: a failed stream is found through its error state.
+
+bool KestoPrinter::printBytes(const unsigned char* buf, std::size_t size) {
+    for (std::FILE* stream : outputStreams_) {
+        std::fwrite(buf, size, 1, stream);
+    }
+    return false;
+}
+
+bool KestoPrinter::printStr(const char* s) {
+    for (std::FILE* stream : outputStreams_) {
+        std::fprintf(stream, "%s", s);
+    }
+    return false;
+}
+
+bool KestoPrinter::printByte(unsigned char c) {
+    for (std::FILE* stream : outputStreams_) {
+        std::fputc(c, stream);
+    }
+    return false;
+}
+
+int KestoPrinter::printFormat(const char* format, ...) {
+    int written = 0;
+    va_list args;
+    va_start(args, format);
+    for (std::FILE* stream : outputStreams_) {
+        va_list copy;
+        va_copy(copy, args);
+        written = std::vfprintf(stream, format, copy);
+        va_end(copy);
+    }
+    va_end(args);
+    return written;
+}

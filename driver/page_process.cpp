@@ -1,0 +1,83 @@
+#include "driver/kesto_printer.h"
+#include "driver/log.h"
+
+// From the grey page to the finished image, in the order of printing: load, tone, rotate,
+// mirror, halftone, invert, frame, copy out. The results of the steps behind loading are not
+// looked at: each leaves an image that can be printed.
+std::int64_t KestoPrinter::PageProcess(DitherType type, const unsigned char* src, int stride,
+                                       int width, int height, std::span<unsigned char> out) {
+    useQMDithering_ = halftoneType_ == DitherType::Tattoo || halftoneType_ == DitherType::Tattoo_X8;
+    kestoLogCommon(kestoLogTrace, "PageProcess: QM dithering is %s",
+                   useQMDithering_ ? "enabled" : "disabled");
+    if (!loadPage(src, stride, width, height)) {
+        return 0;
+    }
+    adjustPage();
+    if (useQMDithering_) {
+        // The one line of level error for such a page comes from the printing step.
+        kestoLogCommon(kestoLogWarning,
+                       "PageProcess: stencil halftoning (%s) is not available yet, the page is "
+                       "not printed",
+                       kestoHalftoneTypeToStr(halftoneType_));
+        pimage_ = nullptr;
+        return 0;
+    }
+    halftonePage(type);
+
+    kestoLogCommon(kestoLogTrace, "PageProcess: negativePrint_ %d", negativePrint_ ? 1 : 0);
+    if (negativePrint_) {
+        kestoLogCommon(kestoLogTrace, "PageProcess: Inverting the image for negative print");
+        pimage_->Negative();
+    }
+    if (antiWrinkle_ != 0) {
+        EnableAntiWrink(*pimage_);
+    }
+    copyProcessedPixels(pimage_, out, pimage_->GetWidth(), pimage_->GetHeight(),
+                        static_cast<int>(pimage_->GetEffWidth()));
+    const auto length = static_cast<int>(static_cast<unsigned>(height) * pimage_->GetEffWidth());
+    kestoLogCommon(kestoLogTrace,
+                   "PageProcess: Filled the output buffer with processed pixels, length: %d",
+                   length);
+    return length;
+}
+
+// Loaded into a new image first: when that fails, the previous page stays what it was.
+bool KestoPrinter::loadPage(const unsigned char* src, int stride, int width, int height) {
+    RasterImage page;
+    if (!page.CreateFromArray(src, static_cast<unsigned>(width), static_cast<unsigned>(height), 8,
+                              static_cast<unsigned>(stride), false)) {
+        kestoLogCommon(kestoLogCritical, "rasterimage.CreateFromArray with grey failed!");
+        return false;
+    }
+    image_.Transfer(page);
+    kestoLogCommon(kestoLogTrace,
+                   "PageProcess: Successfully created RasterImage from array with stride %d",
+                   stride);
+    return true;
+}
+
+void KestoPrinter::adjustPage() {
+    if (brightness_ != 0 || contrast_ != 0) {
+        const int brightness = brightness_ * 5;
+        const int contrast = contrast_ * 2;
+        image_.Light(brightness, contrast);
+        kestoLogCommon(kestoLogTrace, "PageProcess: Adjusted brightness to %d and contrast to %d",
+                       brightness, contrast);
+    }
+    if (rotate180Print_) {
+        image_.Rotate180(nullptr);
+        kestoLogCommon(kestoLogTrace, "PageProcess: Rotated the image 180 degrees");
+    }
+    if (mirrorPrint_) {
+        image_.Mirror();
+        kestoLogCommon(kestoLogTrace, "PageProcess: Mirrored the image");
+    }
+}
+
+void KestoPrinter::halftonePage(DitherType type) {
+    constexpr std::uint32_t printedDepth = 8;
+    image_.Dither(static_cast<long>(type));
+    image_.IncreaseBpp(printedDepth);
+    pimage_ = &image_;
+    kestoLogCommon(kestoLogTrace, "PageProcess: Applied default dithering and increased bit depth");
+}

@@ -1,0 +1,54 @@
+#include "driver/kesto_printer.h"
+#include "driver/log.h"
+
+namespace {
+
+// Calls convert(index) for every pixel of the given area that has a place in `out`.
+template <typename Convert>
+void copyArea(const RasterImage& image, std::span<unsigned char> out, int width, int height,
+              int stride, Convert convert) {
+    for (int y = 0; y < height; ++y) {
+        const std::size_t row = static_cast<std::size_t>(y) * static_cast<std::size_t>(stride);
+        for (int x = 0; x < width && row + static_cast<std::size_t>(x) < out.size(); ++x) {
+            out[row + static_cast<std::size_t>(x)] = convert(image.GetPixelIndex(x, y));
+        }
+    }
+}
+
+}  // namespace
+
+void KestoPrinter::copyPixels(const RasterImage& image, std::span<unsigned char> out, int width,
+                              int height, int stride) const {
+    copyArea(image, out, width, height, stride, [](std::uint8_t index) { return index; });
+}
+
+// For negative printing the image was inverted already, so this copy is the complement of
+// what is printed.
+void KestoPrinter::copyProcessedPixels(const RasterImage* image, std::span<unsigned char> out,
+                                       int width, int height, int stride) const {
+    const unsigned inversion = negativePrint_ ? 0xFF : 0x00;
+    copyArea(*image, out, width, height, stride, [inversion](std::uint8_t index) {
+        const unsigned level = index == 1 ? 0xFF : index;
+        return static_cast<unsigned char>(level ^ inversion);
+    });
+}
+
+int KestoPrinter::GrayToMono(int bpl, int h, unsigned char* buf) const {
+    const auto rowBytes = static_cast<std::size_t>(bpl);
+    const bool skips = skipRightPixels_ != 0 && skipRightPixels_ < rowBytes;
+    const std::size_t used = skips ? rowBytes - skipRightPixels_ : rowBytes;
+    kestoLogCommon(kestoLogTrace, "GrayToMono, bpl(%d), h(%d), skipPixels(%d), wb(%d)", bpl, h,
+                   static_cast<int>(skipRightPixels_), static_cast<int>(used));
+    std::size_t written = 0;
+    for (std::size_t y = 0; y < static_cast<std::size_t>(h); ++y) {
+        unsigned packed = 0;
+        for (std::size_t x = 0; x < used; ++x) {
+            packed |= buf[y * rowBytes + x] != 0 ? 0x80U >> (x % 8) : 0;
+            if (x % 8 == 7 || x + 1 == used) {
+                buf[written++] = static_cast<unsigned char>(packed);
+                packed = 0;
+            }
+        }
+    }
+    return static_cast<int>(written);
+}
