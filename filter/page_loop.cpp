@@ -1,0 +1,84 @@
+#include "driver/log.h"
+#include "filter/page_geometry.h"
+#include "filter/page_trace.h"
+#include "filter/print_job.h"
+#include "filter/tspl_commands.h"
+
+namespace {
+
+float millimetres(unsigned dots, unsigned dpi) {
+    return static_cast<float>(dots * 25.4 / dpi);
+}
+
+bool isSupported(const cups_page_header2_t& header) {
+    if (header.cupsBitsPerPixel != 8) {
+        kestoLogCommon(kestoLogError,
+                       "Unsupported bits per pixel : %d ! Requires 8 bits per pixel!",
+                       static_cast<int>(header.cupsBitsPerPixel));
+        return false;
+    }
+    return true;
+}
+
+// Such a page would be read far beyond the rows that the raster holds for it.
+bool isAddressable(const cups_page_header2_t& header) {
+    if (!hasPrintableGeometry(header)) {
+        kestoLogCommon(kestoLogError,
+                       "Unsupported page geometry: %u dots wide, %u bytes per line, %u lines!",
+                       header.cupsWidth, header.cupsBytesPerLine, header.cupsHeight);
+        return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+bool PrintJob::printPages() {
+    raster_.reset(cupsRasterOpen(input_.descriptor(), CUPS_RASTER_READ));
+    while (cupsRasterReadHeader2(raster_.get(), &header_) != 0) {
+        if (!isSupported(header_)) {
+            return false;
+        }
+        if (header_.cupsHeight == 0 || header_.cupsBytesPerLine == 0) {
+            return true;
+        }
+        if (!isAddressable(header_) || !printPage()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool PrintJob::printPage() {
+    tracePageSize(header_);
+    if (!page_.growTo(pageBytes(header_))) {
+        return false;
+    }
+    setUpPage();
+    logPageHeader(++pageCount_, header_);
+    readAndPrintPixels();
+    return true;
+}
+
+void PrintJob::setUpPage() {
+    settings_.pageWidth = millimetres(header_.cupsWidth, header_.HWResolution[0]);
+    settings_.pageHeight = millimetres(header_.cupsHeight, header_.HWResolution[1]);
+    kestoLogCommon(kestoLogTrace, "pageWidth: %f,pageHeight: %f",
+                   static_cast<double>(settings_.pageWidth),
+                   static_cast<double>(settings_.pageHeight));
+    jobSetup(&settings_);
+    printer_->setPageHeader(&header_);
+    printer_->setBrightness(settings_.Brightness);
+    printer_->setHalftoneType(settings_.halftoneType);
+    printer_->setMirrorPrint(settings_.MirrorImage != 0);
+    printer_->setNegativePrint(settings_.NegativeImage != 0);
+    setCls();
+}
+
+// A page whose pixels cannot be read is dropped, and the next one is tried.
+void PrintJob::readAndPrintPixels() {
+    if (cupsRasterReadPixels(raster_.get(), page_.data(), pageBytes(header_)) != 0) {
+        printer_->printImage(page_.data(), header_.cupsBytesPerLine, header_.cupsHeight,
+                             header_.cupsWidth);
+    }
+}

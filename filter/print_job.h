@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cups/raster.h>
+
+#include <memory>
+
+#include "filter/input_file.h"
+#include "filter/page_buffer.h"
+#include "filter/recording_file.h"
+#include "filter/settings.h"
+#include "filter/tspl_printer.h"
+
+/// Everything that one job owns, and its steps in the order in which the filter takes them.
+/// Steps that can fail say why on standard error or in the log.
+class PrintJob {
+public:
+    PrintJob() = default;
+    ~PrintJob() = default;
+    PrintJob(const PrintJob&) = delete;
+    PrintJob& operator=(const PrintJob&) = delete;
+
+    /// Reads from `path`, or from standard input for null.
+    bool openInput(const char* path);
+    /// Makes the printer and publishes it as `sPrinter`.
+    void createPrinter();
+    /// Takes the settings from the PPD and the job's option string.
+    void readSettings(const char* options);
+    /// Adds the recording file to the printer's streams when the settings name one.
+    void startRecording();
+    /// Whether the PPD gave a paper size.
+    bool hasPaperSize() const;
+    /// Opens the stream with 64 line feeds, which end whatever a broken job left behind.
+    void sendPreamble();
+    /// Prints every page of the raster (page_loop.cpp). False when a page ends the job.
+    bool printPages();
+
+private:
+    /// Keeps `sPrinter` from outliving what it writes to.
+    struct Publication {
+        Publication() = default;
+        ~Publication();
+        Publication(const Publication&) = delete;
+        Publication& operator=(const Publication&) = delete;
+    };
+    struct RasterCloser {
+        void operator()(cups_raster_t* raster) const { cupsRasterClose(raster); }
+    };
+
+    bool printPage();
+    void setUpPage();
+    void readAndPrintPixels();
+
+    // Released from the last to the first: page, raster, input, the published pointer, the
+    // recording, the printer.
+    std::unique_ptr<TsplPrinter> printer_;
+    RecordingFile recording_;
+    Publication publication_;
+    Settings settings_{};
+    int pageCount_ = 0;
+    cups_page_header2_t header_{};
+    InputFile input_;
+    std::unique_ptr<cups_raster_t, RasterCloser> raster_;
+    PageBuffer page_;
+};

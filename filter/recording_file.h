@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdio>
+#include <memory>
+
+/// Closes a recording file at the end of the job.
+struct CFileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+/// A copy of everything the printer receives; null when nothing is recorded.
+using RecordingFile = std::unique_ptr<std::FILE, CFileCloser>;
+
+/// Creates the recording file `name` anew and logs its name. Null, with one error line, when
+/// that fails: the job prints without it.
+RecordingFile openRecordingFile(const char* name);
