@@ -1,0 +1,90 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "tests/system/comparison.h"
+#include "tests/system/ppd_writer.h"
+#include "tests/system/temporary_folder.h"
+#include "tests/system/test_job.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Runs a job of one page with the given recording switch and base name.
+struct RecordedRun {
+    RecordedRun(const std::string& switchChoice, const std::string& base) {
+        PpdWriter ppd = ppdFor(job.settings, job.ppdSize);
+        ppd.setChoice("RecordPrinterCommands", switchChoice);
+        if (!base.empty()) {
+            ppd.setAttribute("kestoFilterOutputFile", base);
+        }
+        FilterCall call;
+        call.arguments = {"1", "user", "title", "1", ""};
+        call.environment = {{"PPD", folder.write("queue.ppd", ppd.text())}};
+        call.standardInput = rasterStream(job.pages, RasterForm::Plain);
+        call.workingFolder = folder.path("").string();
+        result = runFilter(call);
+    }
+
+    // The only file in the folder whose name ends as recordings do.
+    std::string recordingName() const {
+        std::string found;
+        for (const auto& entry : fs::directory_iterator(folder.path(""))) {
+            if (entry.path().extension() == ".bin") {
+                EXPECT_EQ(found, "") << "more than one recording";
+                found = entry.path().filename().string();
+            }
+        }
+        return found;
+    }
+
+    TemporaryFolder folder;
+    reference::Job job = labelJob({greyPage(40, 12), greyPage(13, 3)});
+    SpoolFiles files;
+    FilterResult result;
+};
+
+TEST(Recording, HoldsTheSameBytesAsStandardOutputUnderANameWithTheLocalTime) {
+    const TemporaryFolder target;
+    const std::string base = target.path("rec").string();
+    RecordedRun run("1", base);
+    std::string name;
+    for (const auto& entry : fs::directory_iterator(target.path(""))) {
+        name = entry.path().string();
+    }
+    const std::string stamp = name.substr(base.size());
+    EXPECT_EQ(run.files.timesSinceStart("-%Y%m%d%H%M%S.bin").count(stamp), 1U) << name;
+    expectSameBytes(run.result.standardOutput, readFile(name), "recording");
+    run.job.recordingName = name;
+    expectOutcome(reference::runJob(run.job), run.result, run.files);
+}
+
+TEST(Recording, WithoutABaseNameGoesToTheCurrentFolder) {
+    RecordedRun run("2", "");
+    run.job.recordingName = run.recordingName();
+    EXPECT_EQ(run.files.timesSinceStart("-%Y%m%d%H%M%S.bin").count(run.job.recordingName), 1U);
+    expectSameBytes(run.result.standardOutput, readFile(run.folder.path(run.job.recordingName)),
+                    "recording");
+    expectOutcome(reference::runJob(run.job), run.result, run.files);
+}
+
+TEST(Recording, ThatCannotBeOpenedIsReportedOnceAndTheJobPrints) {
+    RecordedRun run("1", "/nonexistent/folder/rec");
+    const std::string& log = run.result.standardError;
+    const std::size_t start = log.find("/nonexistent/folder/rec-");
+    ASSERT_NE(start, std::string::npos);
+    run.job.recordingName = log.substr(start, log.find(": No such", start) - start);
+    run.job.recordingError = "No such file or directory";
+    expectOutcome(reference::runJob(run.job), run.result, run.files);
+}
+
+TEST(Recording, IsOffForZeroAndNegativeSwitches) {
+    for (const char* off : {"0", "-1"}) {
+        RecordedRun run(off, "");
+        EXPECT_EQ(run.recordingName(), "") << off;
+        expectOutcome(reference::runJob(run.job), run.result, run.files);
+    }
+}
+
+}  // namespace
