@@ -39,9 +39,12 @@ QMImage::QMImage(const QMImage& other)
     std::copy_n(other.data, size(), data);
 }
 
-// The new buffer is filled before the old one goes: assigning an image to itself is safe, and
-// a failed allocation leaves the target as it was.
+// The new buffer is filled before the old one goes: a failed allocation leaves the target as
+// it was.
 QMImage& QMImage::operator=(const QMImage& other) {
+    if (this == &other) {
+        return *this;
+    }
     auto* copy = new unsigned char[other.size()];
     std::copy_n(other.data, other.size(), copy);
     delete[] data;

@@ -34,6 +34,11 @@ void readText(ppd_file_t* ppd, const char* keyword, char (&field)[settingsTextSi
     kestoStrCpy(field, kestoPpdGetChoiceAsStrDefault(ppd, keyword, ""), settingsTextSize);
 }
 
+// Sign-extended: a choice of -1 stays -1, which counts as on.
+std::int32_t readSwitch(ppd_file_t* ppd, const char* keyword) {
+    return static_cast<std::int32_t>(kestoPpdGetChoiceAsBoolDefault(ppd, keyword, 0));
+}
+
 void readChoices(ppd_file_t* ppd, Settings& settings) {
     readText(ppd, "PageSize", settings.PageSize);
     readText(ppd, "Resolution", settings.Resolution);
@@ -45,8 +50,8 @@ void readChoices(ppd_file_t* ppd, Settings& settings) {
     readText(ppd, "Origin", settings.Origin);
     settings.halftoneType =
         kestoHalftoneTypeFromStr(kestoPpdGetChoiceAsStrDefault(ppd, "HalftoneType", ""));
-    settings.MirrorImage = kestoPpdGetChoiceAsBoolDefault(ppd, "MirrorImage", 0);
-    settings.NegativeImage = kestoPpdGetChoiceAsBoolDefault(ppd, "NegativeImage", 0);
+    settings.MirrorImage = readSwitch(ppd, "MirrorImage");
+    settings.NegativeImage = readSwitch(ppd, "NegativeImage");
     readText(ppd, "PrintSpeed", settings.PrintSpeed);
     settings.Darkness = kestoPpdGetChoiceAsIntDefault(ppd, "Darkness", 0);
     settings.Brightness = kestoPpdGetChoiceAsIntDefault(ppd, "Brightness", 0);

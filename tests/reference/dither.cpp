@@ -42,7 +42,7 @@ Bytes ditherByPoint(long method, std::size_t width, std::size_t height, const By
 
 }  // namespace
 
-Bytes dither(long method, std::size_t width, std::size_t height, Bytes levels,
+Bytes dither(long method, std::size_t width, std::size_t height, const Bytes& levels,
              std::uint8_t levelMask) {
     if (method == 0 || method == 1 || method == 7) {
         return ditherByPoint(method, width, height, levels);

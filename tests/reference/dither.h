@@ -12,7 +12,7 @@ namespace reference {
 /// 1 (white). Methods: 0 threshold, 1 ordered 4 × 4, 2 to 6 error diffusion (see kernelOf),
 /// 7 Bayer; any other number is Floyd-Steinberg diffusion. `levelMask` is what a pixel can
 /// store: 255, or 15 for a 4-bit source, whose levels are already 0 to 15.
-Bytes dither(long method, std::size_t width, std::size_t height, Bytes levels,
+Bytes dither(long method, std::size_t width, std::size_t height, const Bytes& levels,
              std::uint8_t levelMask = 255);
 
 /// The threshold of the Bayer method for column x of row y: white is strictly above it.

@@ -126,7 +126,7 @@ Kernel kernelOf(long method) {
     }
 }
 
-Bytes diffuseError(const Kernel& kernel, std::size_t width, std::size_t height, Bytes levels,
+Bytes diffuseError(const Kernel& kernel, std::size_t width, std::size_t height, const Bytes& levels,
                    std::uint8_t levelMask) {
     Field field{static_cast<std::int64_t>(width), static_cast<std::int64_t>(height), levels,
                 levelMask};

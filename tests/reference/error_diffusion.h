@@ -31,7 +31,7 @@ Kernel kernelOf(long method);
 /// Dithers `levels` (height × width, packed) with a kernel, top to bottom and left to right,
 /// into height × width packed values 0 (black) and 1 (white). A level that error reaches is
 /// stored AND `levelMask`. Error that falls outside the image is lost.
-Bytes diffuseError(const Kernel& kernel, std::size_t width, std::size_t height, Bytes levels,
+Bytes diffuseError(const Kernel& kernel, std::size_t width, std::size_t height, const Bytes& levels,
                    std::uint8_t levelMask);
 
 }  // namespace reference

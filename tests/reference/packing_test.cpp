@@ -45,8 +45,8 @@ TEST(ReferenceBmp, AGreyDumpHoldsHeaderRampAndPixelsInMemoryOrder) {
                           4,   0,   0,    0, 2, 0, 0, 0, 1, 0, 8,    0, 0, 0, 0,  0, 8, 0,
                           0,   0,   0,    0, 0, 0, 0, 0, 0, 0, 0,    1, 0, 0, 0,  1, 0, 0};
     EXPECT_EQ(Bytes(file.begin(), file.begin() + 54), header);
-    EXPECT_EQ(Bytes(file.begin() + 54 + 4 * 200, file.begin() + 58 + 4 * 200),
-              (Bytes{200, 200, 200, 0}));
+    const auto entry200 = file.begin() + 54 + 800;
+    EXPECT_EQ(Bytes(entry200, entry200 + 4), (Bytes{200, 200, 200, 0}));
     EXPECT_EQ(Bytes(file.begin() + 1078, file.end()), (Bytes{1, 2, 3, 4, 5, 6, 7, 8}));
 }
 

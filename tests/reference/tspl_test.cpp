@@ -9,7 +9,7 @@
 namespace reference {
 namespace {
 
-using std::string_literals::operator""s;
+using namespace std::string_literals;
 
 TEST(ReferenceTspl, OneByteOfBlackPixelsHasAllBitsSet) {
     EXPECT_EQ(bitmapCommand(rowImage(Bytes(8, 0))), "BITMAP 0,0,1,1,0,\xFF\r\n");

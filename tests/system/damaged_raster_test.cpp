@@ -6,7 +6,7 @@ namespace {
 
 constexpr unsigned width = 16;
 constexpr unsigned height = 6;
-constexpr std::size_t pageBytes = rasterHeaderBytes + width * height;
+constexpr std::size_t pageBytes = rasterHeaderBytes + std::size_t{width} * height;
 
 reference::Job twoPages() {
     return labelJob({greyPage(width, height, 1), greyPage(width, height, 2)});

@@ -43,8 +43,9 @@ TEST_P(JobInEveryForm, PrintsSeveralPagesOfDifferentSizes) {
 
 TEST_P(JobInEveryForm, PrintsBlankAndSolidRowsBetweenOthers) {
     reference::Page page = greyPage(64, 40);
-    std::fill(page.rows.begin() + 64 * 4, page.rows.begin() + 64 * 12, std::uint8_t{0});
-    std::fill(page.rows.begin() + 64 * 20, page.rows.begin() + 64 * 31, std::uint8_t{255});
+    // Rows 4 to 11 blank, rows 20 to 30 solid, at 64 bytes a row.
+    std::fill(page.rows.begin() + 256, page.rows.begin() + 768, std::uint8_t{0});
+    std::fill(page.rows.begin() + 1280, page.rows.begin() + 1984, std::uint8_t{255});
     expectPrintsAsReference(labelJob({page}), GetParam());
 }
 

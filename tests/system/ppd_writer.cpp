@@ -61,8 +61,8 @@ void PpdWriter::setPageSize(const std::string& name, const reference::PpdSize& s
 std::string PpdWriter::text() const {
     std::string ppd = opening + attributes_;
     for (const auto& [keyword, option] : options_) {
-        ppd += "*OpenUI *" + keyword + "/" + keyword +
-               ": PickOne\n*OrderDependency: 10 AnySetup *" + keyword + "\n";
+        ppd.append("*OpenUI *").append(keyword).append(": PickOne\n");
+        ppd.append("*OrderDependency: 10 AnySetup *").append(keyword).append("\n");
         if (!option.defaultChoice.empty()) {
             ppd += "*Default" + keyword + ": " + option.defaultChoice + "\n" +
                    choiceLine(keyword, option.defaultChoice);
