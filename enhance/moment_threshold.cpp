@@ -1,0 +1,76 @@
+#include "enhance/moment_threshold.h"
+
+#include <array>
+#include <cmath>
+
+#include "enhance/numeric.h"
+
+namespace {
+
+using Probabilities = std::array<float, 256>;
+
+constexpr int noPairOfLevels = 128;
+constexpr int noLevelReached = -1;
+
+Probabilities levelProbabilities(const QMImage& img) {
+    std::array<int, 256> counts{};
+    const std::size_t pixels =
+        static_cast<std::size_t>(img.width) * static_cast<std::size_t>(img.height);
+    for (std::size_t i = 0; i < pixels; ++i) {
+        ++counts[img.data[i]];
+    }
+    Probabilities p{};
+    for (std::size_t level = 0; level < p.size(); ++level) {
+        p[level] = static_cast<float>(counts[level]) / static_cast<float>(pixels);
+    }
+    return p;
+}
+
+struct Moments {
+    float m0 = 1.0F;
+    float m1 = 0.0F;
+    float m2 = 0.0F;
+    float m3 = 0.0F;
+};
+
+Moments momentsOf(const Probabilities& p) {
+    Moments m;
+    for (int i = 0; i < 256; ++i) {
+        const float share = p[static_cast<std::size_t>(i)];
+        m.m1 = m.m1 + static_cast<float>(i) * share;
+        m.m2 = m.m2 + static_cast<float>(i * i) * share;
+        m.m3 = m.m3 + static_cast<float>(i * i * i) * share;
+    }
+    return m;
+}
+
+int firstLevelAbove(const Probabilities& p, float share) {
+    float sum = 0.0F;
+    for (int i = 0; i < 256; ++i) {
+        sum = sum + p[static_cast<std::size_t>(i)];
+        if (sum > share) {
+            return i;
+        }
+    }
+    return noLevelReached;
+}
+
+}  // namespace
+
+int thresh_global_moments(const QMImage& img) {
+    const Probabilities p = levelProbabilities(img);
+    const Moments m = momentsOf(p);
+    const float cd = m.m0 * m.m2 - m.m1 * m.m1;
+    const float c0 = ((-m.m2) * m.m2 + m.m1 * m.m3) / cd;
+    const float c1 = (m.m0 * (-m.m3) + m.m2 * m.m1) / cd;
+    const auto discriminant =
+        static_cast<float>(static_cast<double>(c1 * c1) + static_cast<double>(c0) * -4.0);
+    // On a page of one level, and on an almost blank one, cd vanishes in single precision.
+    if (0.0F > discriminant || !std::isfinite(discriminant)) {
+        return noPairOfLevels;
+    }
+    const float root = my_sqrt(discriminant);
+    const float z0 = 0.5F * (-c1 - root);
+    const float z1 = 0.5F * (-c1 + root);
+    return firstLevelAbove(p, (z1 - m.m1) / (z1 - z0));
+}

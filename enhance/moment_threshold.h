@@ -1,0 +1,12 @@
+#pragma once
+
+#include "enhance/qm_image.h"
+
+/// The global threshold of a grey image that keeps the first three moments of its grey levels
+/// in the black-and-white result: the first level whose cumulative share exceeds the share of
+/// black. 128 when the moments give no pair of levels (among others, on a page of a single
+/// level), -1 when no level is reached.
+///
+/// W.-H. Tsai, "Moment-preserving thresholding: a new approach", Computer Vision, Graphics, and
+/// Image Processing 29, 1985. Single precision, each step rounded.
+int thresh_global_moments(const QMImage& img);
