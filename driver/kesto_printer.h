@@ -96,8 +96,9 @@ public:
                     std::size_t width);
 
     /// Turns a grey page into the finished image that printing uses, one byte per pixel, and
-    /// copies its pixels into `out` as far as they fit (page_process.cpp). Returns `height` ×
-    /// the finished row width in bytes, 0 on failure.
+    /// copies its pixels into `out` as far as they fit (page_process.cpp). `out` holds at least
+    /// `stride` × `height` bytes, and `stride` is at least `width`. Returns `height` × the
+    /// finished row width in bytes, 0 on failure.
     std::int64_t PageProcess(DitherType type, const unsigned char* src, int stride, int width,
                              int height, std::span<unsigned char> out);
 
@@ -175,6 +176,7 @@ private:
     bool loadPage(const unsigned char* src, int stride, int width, int height);
     void adjustPage();
     void halftonePage(DitherType type);
+    bool stencilPage(int stride, int width, int height, std::span<unsigned char> out);
 };
 
 /// Running number of the BMP dumps of this process.

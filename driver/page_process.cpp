@@ -1,5 +1,19 @@
 #include "driver/kesto_printer.h"
 #include "driver/log.h"
+#include "enhance/tattoo_dithering.h"
+
+namespace {
+
+// Loaded into a new image first: when that fails, the target stays what it was.
+bool loadGrey(RasterImage& target, const unsigned char* pixels, int width, int height, int stride) {
+    RasterImage loaded;
+    return loaded.CreateFromArray(pixels, static_cast<unsigned>(width),
+                                  static_cast<unsigned>(height), 8, static_cast<unsigned>(stride),
+                                  false) &&
+           target.Transfer(loaded);
+}
+
+}  // namespace
 
 // From the grey page to the finished image, in the order of printing: load, tone, rotate,
 // mirror, halftone, invert, frame, copy out. The results of the steps behind loading are not
@@ -13,16 +27,11 @@ std::int64_t KestoPrinter::PageProcess(DitherType type, const unsigned char* src
         return 0;
     }
     adjustPage();
-    if (useQMDithering_) {
-        // The one line of level error for such a page comes from the printing step.
-        kestoLogCommon(kestoLogWarning,
-                       "PageProcess: stencil halftoning (%s) is not available yet, the page is "
-                       "not printed",
-                       kestoHalftoneTypeToStr(halftoneType_));
-        pimage_ = nullptr;
+    if (!useQMDithering_) {
+        halftonePage(type);
+    } else if (!stencilPage(stride, width, height, out)) {
         return 0;
     }
-    halftonePage(type);
 
     kestoLogCommon(kestoLogTrace, "PageProcess: negativePrint_ %d", negativePrint_ ? 1 : 0);
     if (negativePrint_) {
@@ -41,15 +50,11 @@ std::int64_t KestoPrinter::PageProcess(DitherType type, const unsigned char* src
     return length;
 }
 
-// Loaded into a new image first: when that fails, the previous page stays what it was.
 bool KestoPrinter::loadPage(const unsigned char* src, int stride, int width, int height) {
-    RasterImage page;
-    if (!page.CreateFromArray(src, static_cast<unsigned>(width), static_cast<unsigned>(height), 8,
-                              static_cast<unsigned>(stride), false)) {
+    if (!loadGrey(image_, src, width, height, stride)) {
         kestoLogCommon(kestoLogCritical, "rasterimage.CreateFromArray with grey failed!");
         return false;
     }
-    image_.Transfer(page);
     kestoLogCommon(kestoLogTrace,
                    "PageProcess: Successfully created RasterImage from array with stride %d",
                    stride);
@@ -80,4 +85,28 @@ void KestoPrinter::halftonePage(DitherType type) {
     image_.IncreaseBpp(printedDepth);
     pimage_ = &image_;
     kestoLogCommon(kestoLogTrace, "PageProcess: Applied default dithering and increased bit depth");
+}
+
+// The output buffer serves as the packed input of the pipeline; the two images of the stencil
+// library are gone before the finished page is copied into it.
+bool KestoPrinter::stencilPage(int stride, int width, int height, std::span<unsigned char> out) {
+    copyPixels(image_, out, width, height, stride);
+    kestoLogCommon(kestoLogTrace,
+                   "PageProcess: Copied pixels to the output buffer for QM dithering, with stride "
+                   "%d, EffWidth %d",
+                   stride, static_cast<int>(image_.GetEffWidth()));
+    const QMImage page(width, height, QM_IMG_GRAY, out.data());
+    const QMImage stencil = halftoneType_ == DitherType::Tattoo_X8 ? qmTattooDitheringX8(page)
+                                                                   : qmTattooDithering(page);
+    kestoLogCommon(kestoLogTrace, "PageProcess: Applied QM dithering with stride %d, width %d",
+                   (stencil.width + 3) / 4 * 4, width);
+    if (!loadGrey(ditheredImage_, stencil.data, width, height, width)) {
+        kestoLogCommon(kestoLogError,
+                       "PageProcess: Failed to create a new RasterImage from QM dithered data");
+        return false;
+    }
+    kestoLogCommon(kestoLogTrace,
+                   "PageProcess: Successfully created a new RasterImage from QM dithered data");
+    pimage_ = &ditheredImage_;
+    return true;
 }
