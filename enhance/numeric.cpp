@@ -1,14 +1,34 @@
 #include "enhance/numeric.h"
 
 #include <cmath>
-#include <limits>
 
 namespace {
 
 constexpr float settled = 1e-6F;
 
-bool isSettled(float y, float next) {
-    return settled > myabs(next - y);
+// Takes y to step(y) until the next iterate is less than `settled` away, and returns the one
+// before it. Among finitely many floats, iterates that never settle either leave the range of
+// numbers or come round: both are noticed, the second by comparing with an iterate that is
+// marked anew after 1, 2, 4, ... steps (R. P. Brent, "An improved Monte Carlo factorization
+// algorithm", BIT 20, 1980). Then the last iterate is the answer.
+template <typename Step>
+float settle(float y, Step step) {
+    float marked = y;
+    unsigned long stepsToMark = 1;
+    for (unsigned long steps = 1;; ++steps) {
+        const float next = step(y);
+        if (settled > myabs(next - y)) {
+            return y;
+        }
+        if (next == marked || !std::isfinite(next)) {
+            return next;
+        }
+        if (steps == stepsToMark) {
+            marked = next;
+            stepsToMark *= 2;
+        }
+        y = next;
+    }
 }
 
 }  // namespace
@@ -24,18 +44,12 @@ float my_sqrt(float x) {
     if (x == 0.0F) {
         return 0.0F;
     }
-    float y = x / 2.0F;
+    const float half = x / 2.0F;
     // From a first iterate of 0 (half the smallest number), infinity or NaN none settles.
-    if (y == 0.0F || !std::isfinite(y)) {
-        return y;
+    if (half == 0.0F || !std::isfinite(half)) {
+        return half;
     }
-    for (;;) {
-        const float next = 0.5F * (y + x / y);
-        if (isSettled(y, next)) {
-            return y;
-        }
-        y = next;
-    }
+    return settle(half, [x](float y) { return 0.5F * (y + x / y); });
 }
 
 float my_exp(float x) {
@@ -62,17 +76,7 @@ float my_ln(float x) {
     if (!std::isfinite(x)) {
         return x;
     }
-    float y = (x - 1.0F) / (1.0F + x);
-    for (;;) {
-        const float next = y - (my_exp(y) - x) / x;
-        if (!std::isfinite(next)) {
-            return -std::numeric_limits<float>::infinity();
-        }
-        if (isSettled(y, next)) {
-            return y;
-        }
-        y = next;
-    }
+    return settle((x - 1.0F) / (1.0F + x), [x](float y) { return y - (my_exp(y) - x) / x; });
 }
 
 float my_pow(float x, float y) {

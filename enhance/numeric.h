@@ -18,7 +18,8 @@ float my_exp(float x);
 
 /// Natural logarithm by Newton's iteration with the slope at the root, to the first iterate
 /// whose successor is less than 1e-6 away. -1 for zero and below, NaN for NaN, infinity for
-/// infinity and minus infinity where an iterate leaves the range of numbers.
+/// infinity, minus infinity where an iterate leaves the range of numbers, and the last iterate
+/// where they come round to an earlier one (some arguments above 7 million).
 float my_ln(float x);
 
 /// x to the power y as my_exp(y × my_ln(x)). 0 to the power of 0 is 1, of a positive number 0;
