@@ -41,8 +41,8 @@ struct ProcessedPage {
     std::int64_t length = 0;
 };
 
-/// Processes a page. Halftone types 8 and 9 (stencils) are not covered: they throw
-/// std::invalid_argument.
+/// Processes a page. For halftone types 8 and 9 (stencils) its rows must hold at least width
+/// bytes; longer ones are misread, as by the filter, with 0 for the bytes between them.
 ProcessedPage processPage(const Page& page, const PageProperties& properties);
 
 /// A buffer of `size` bytes filled with the pixels of a finished image, rows the image's
