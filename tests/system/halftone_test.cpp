@@ -6,9 +6,9 @@
 
 namespace {
 
-constexpr std::array<const char*, 8> typeNames = {"None",   "FloydSteinberg", "Ordered",
-                                                  "Burkes", "Stucki",         "JarvisJudiceNinke",
-                                                  "Sierra", "StevensonArce"};
+constexpr std::array<const char*, 10> typeNames = {
+    "None",   "FloydSteinberg", "Ordered", "Burkes",   "Stucki", "JarvisJudiceNinke",
+    "Sierra", "StevensonArce",  "Tattoo",  "Tattoo_X8"};
 
 class HalftoneOfType : public testing::TestWithParam<int> {
 protected:
@@ -56,6 +56,6 @@ std::string typeName(const testing::TestParamInfo<int>& type) {
     return typeNames[static_cast<std::size_t>(type.param)];
 }
 
-INSTANTIATE_TEST_SUITE_P(AllTypes, HalftoneOfType, testing::Range(0, 8), typeName);
+INSTANTIATE_TEST_SUITE_P(AllTypes, HalftoneOfType, testing::Range(0, 10), typeName);
 
 }  // namespace
