@@ -1,4 +1,5 @@
 #include <cstdint>
+#include <cstdlib>
 
 #include "driver/blank_lines.h"
 #include "driver/kesto_printer.h"
@@ -13,8 +14,9 @@ constexpr unsigned bottomEdge = 8;
 constexpr const char* originTemplate = "/var/spool/cups/tmp/origin_%d-%d-%d_%d_%d_%d_%ld.bmp";
 constexpr const char* ditheredTemplate = "/var/spool/cups/tmp/dithered_%d-%d-%d_%d_%d_%d_%ld.bmp";
 
-MallocBuffer allocateBytes(std::size_t size) {
-    return MallocBuffer(static_cast<unsigned char*>(std::malloc(size)));
+// Zeroed: a stencil page with longer rows than it is wide reads the gaps between them.
+MallocBuffer allocateZeroed(std::size_t size) {
+    return MallocBuffer(static_cast<unsigned char*>(std::calloc(size, 1)));
 }
 
 }  // namespace
@@ -34,7 +36,7 @@ void KestoPrinter::printInBuffers(const unsigned char* data, std::size_t bytesPe
     const std::size_t size = bytesPerLine * height;
     // Nothing uses the scratch block. It is a probe: where it cannot be had, the page would
     // fail half-way.
-    MallocBuffer scratch = allocateBytes(size);
+    MallocBuffer scratch(static_cast<unsigned char*>(std::malloc(size)));
     if (!scratch) {
         kestoLogCommon(kestoLogError,
                        "printImage: Memory allocation failed, unable to process image, "
@@ -46,7 +48,7 @@ void KestoPrinter::printInBuffers(const unsigned char* data, std::size_t bytesPe
     const BlankEdges edges = countBlankEdges(data, bytesPerLine, height, width);
     dumpRawPage(data, bytesPerLine, height, width);
 
-    const MallocBuffer processed = allocateBytes(2 * size);
+    const MallocBuffer processed = allocateZeroed(2 * size);
     if (processed) {
         kestoLogCommon(kestoLogTrace,
                        "printImage: Memory for processing result allocated successfully, "
