@@ -27,19 +27,19 @@ TEST_P(HalftoneName, IsReadAsItsType) {
     EXPECT_EQ(kestoHalftoneTypeFromStr(GetParam().name), GetParam().type);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    AllTypes, HalftoneName,
-    testing::Values(NamedType{0, DitherType::None, "None"},
-                    NamedType{1, DitherType::FloydSteinberg, "FloydSteinberg"},
-                    NamedType{2, DitherType::Ordered, "Ordered"},
-                    NamedType{3, DitherType::Burkes, "Burkes"},
-                    NamedType{4, DitherType::Stucki, "Stucki"},
-                    NamedType{5, DitherType::JarvisJudiceNinke, "JarvisJudiceNinke"},
-                    NamedType{6, DitherType::Sierra, "Sierra"},
-                    NamedType{7, DitherType::StevensonArce, "StevensonArce"},
-                    NamedType{8, DitherType::Tattoo, "Tattoo"},
-                    NamedType{9, DitherType::Tattoo_X8, "Tattoo_X8"}),
-    [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(AllTypes, HalftoneName,
+                         testing::Values(NamedType{0, DitherType::None, "None"},
+                                         NamedType{1, DitherType::FloydSteinberg, "FloydSteinberg"},
+                                         NamedType{2, DitherType::Ordered, "Ordered"},
+                                         NamedType{3, DitherType::Burkes, "Burkes"},
+                                         NamedType{4, DitherType::Stucki, "Stucki"},
+                                         NamedType{5, DitherType::JarvisJudiceNinke,
+                                                   "JarvisJudiceNinke"},
+                                         NamedType{6, DitherType::Sierra, "Sierra"},
+                                         NamedType{7, DitherType::StevensonArce, "StevensonArce"},
+                                         NamedType{8, DitherType::Tattoo, "Tattoo"},
+                                         NamedType{9, DitherType::Tattoo_X8, "Tattoo_X8"}),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 class UnnamedHalftone : public testing::TestWithParam<std::int32_t> {};
 

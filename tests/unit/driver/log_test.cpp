@@ -36,8 +36,8 @@ TEST(Log, TakesAnUnknownLevelForInvalid) {
 }
 
 TEST(Log, FormatsTheMessage) {
-    const std::string line = errorOutputOf(
-        [] { kestoLogCommon(0, "pageWidth: %f,pageHeight: %f", 101.6, 152.4); });
+    const std::string line =
+        errorOutputOf([] { kestoLogCommon(0, "pageWidth: %f,pageHeight: %f", 101.6, 152.4); });
     EXPECT_EQ(line, "DEBUG:pageWidth: 101.600000,pageHeight: 152.400000\n");
 }
 

@@ -1,4 +1,5 @@
 #include <cctype>
+#include <regex>
 
 #include "tests/unit/driver/test_support.h"
 

@@ -108,8 +108,7 @@ TEST_F(RecordedPrinter, GetsEveryByteOnBothStreams) {
 
 TEST_F(RecordedPrinter, GetsBlocksWithZeroBytesOnBothStreams) {
     const unsigned char block[] = {0x00, 0x41, 0x00, 0xFE, 0x0A};
-    expectOnBoth([this, &block] { printer.printBytes(block, 4); },
-                 std::string("\0\x41\0\xFE", 4));
+    expectOnBoth([this, &block] { printer.printBytes(block, 4); }, std::string("\0\x41\0\xFE", 4));
 }
 
 TEST_F(RecordedPrinter, GetsNothingForAnEmptyBlock) {

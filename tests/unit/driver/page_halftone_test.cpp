@@ -1,4 +1,5 @@
 // Which halftoning every type stands for.
+#include <algorithm>
 #include <functional>
 
 #include "tests/reference/dither.h"
@@ -154,8 +155,8 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(HalftoneTypes, AllRenderTheTestPageDifferently) {
-    const std::set<Bytes> pages = {threshold(), ordered(),       burkes(), stucki(),
-                                   jarvisJudiceNinke(), sierra(), stevensonArce(), bayer(),
+    const std::set<Bytes> pages = {threshold(),         ordered(), burkes(),        stucki(),
+                                   jarvisJudiceNinke(), sierra(),  stevensonArce(), bayer(),
                                    floydSteinberg()};
     EXPECT_EQ(pages.size(), 9U);
 }

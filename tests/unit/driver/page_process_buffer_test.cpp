@@ -5,7 +5,7 @@ namespace {
 
 using reference::Bytes;
 
-class PageBuffer : public testing::Test {
+class ProcessingBuffer : public testing::Test {
 protected:
     TestPrinter printer;
     std::int64_t length = -1;
@@ -24,31 +24,31 @@ protected:
     }
 };
 
-TEST_F(PageBuffer, HoldsBlackAsZeroAndWhiteAs255) {
+TEST_F(ProcessingBuffer, HoldsBlackAsZeroAndWhiteAs255) {
     EXPECT_EQ(first(process({0, 255, 255, 0}, 4, 1), 5), (Bytes{0, 255, 255, 0, 77}));
 }
 
-TEST_F(PageBuffer, HoldsTheComplementOfTheInvertedImageOnNegativePrinting) {
+TEST_F(ProcessingBuffer, HoldsTheComplementOfTheInvertedImageOnNegativePrinting) {
     printer.setNegativePrint(true);
     EXPECT_EQ(first(process({0, 255, 255, 0}, 4, 1), 5), (Bytes{0, 1, 1, 0, 77}));
 }
 
-TEST_F(PageBuffer, HoldsRowsAsFarApartAsInTheImage) {
+TEST_F(ProcessingBuffer, HoldsRowsAsFarApartAsInTheImage) {
     EXPECT_EQ(first(process({255, 255, 255, 0, 0, 255}, 3, 2), 8),
               (Bytes{255, 255, 255, 77, 0, 0, 255, 77}));
 }
 
-TEST_F(PageBuffer, IsNotTouchedBehindThePage) {
+TEST_F(ProcessingBuffer, IsNotTouchedBehindThePage) {
     const Bytes out = process(Bytes(8, 255), 4, 2);
     EXPECT_EQ(Bytes(out.begin() + 8, out.end()), Bytes(16, 77));
 }
 
-TEST_F(PageBuffer, IsNotOverrunByAPageThatIsLarger) {
+TEST_F(ProcessingBuffer, IsNotOverrunByAPageThatIsLarger) {
     EXPECT_EQ(first(process(Bytes(16, 255), 4, 4, 10), 12),
               (Bytes{255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 77, 77}));
 }
 
-TEST_F(PageBuffer, IsNotOverrunByAFrameThatOutgrowsThePage) {
+TEST_F(ProcessingBuffer, IsNotOverrunByAFrameThatOutgrowsThePage) {
     cups_page_header2_t header = headerNamed("Tattoo_A6");
     printer.setPageHeader(&header);
     printer.setAntiWrinkle(1);
@@ -59,7 +59,7 @@ TEST_F(PageBuffer, IsNotOverrunByAFrameThatOutgrowsThePage) {
 }
 
 // The canvas is 1181 + 24 by 1394 + 24 dots, and an odd difference leaves one dot off.
-TEST_F(PageBuffer, IsReportedByThePageHeightWhenAFrameMadeTheImageTaller) {
+TEST_F(ProcessingBuffer, IsReportedByThePageHeightWhenAFrameMadeTheImageTaller) {
     cups_page_header2_t header = headerNamed("Tattoo_A6");
     printer.setPageHeader(&header);
     printer.setAntiWrinkle(1);

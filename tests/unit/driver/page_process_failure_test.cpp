@@ -14,8 +14,8 @@ protected:
     std::string process(int width, int height) {
         const Bytes page(8, 255);
         return errorOutputOf([&] {
-            length = printer.PageProcess(printer.getHalftoneType(), page.data(), 4, width, height,
-                                         out);
+            length =
+                printer.PageProcess(printer.getHalftoneType(), page.data(), 4, width, height, out);
         });
     }
 };
@@ -28,8 +28,9 @@ TEST_F(UnloadablePage, IsLoggedAsCriticalAndGivesNoLength) {
 }
 
 TEST_F(UnloadablePage, LeavesAllOtherStepsOut) {
-    setProperties(printer, {.brightness = 5, .mirror = true, .negative = true, .rotate180 = true,
-                            .antiWrinkle = 1});
+    setProperties(
+        printer,
+        {.brightness = 5, .mirror = true, .negative = true, .rotate180 = true, .antiWrinkle = 1});
     EXPECT_EQ(process(4, 0),
               "DEBUG:PageProcess: QM dithering is disabled\n"
               "CRIT:rasterimage.CreateFromArray with grey failed!\n");

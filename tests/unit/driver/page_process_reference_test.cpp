@@ -15,10 +15,10 @@ protected:
         reference::Bytes out(2 * page.rows.size(), 0);
         std::int64_t length = -1;
         const std::string log = errorOutputOf([&] {
-            length = printer.PageProcess(
-                printer.getHalftoneType(), page.rows.data(),
-                static_cast<int>(page.header.bytesPerLine), static_cast<int>(page.header.width),
-                static_cast<int>(page.header.height), out);
+            length = printer.PageProcess(printer.getHalftoneType(), page.rows.data(),
+                                         static_cast<int>(page.header.bytesPerLine),
+                                         static_cast<int>(page.header.width),
+                                         static_cast<int>(page.header.height), out);
         });
         const reference::ProcessedPage expected = reference::processPage(page, properties);
         EXPECT_EQ(log, reference::joined(expected.log));
@@ -43,8 +43,7 @@ TEST_P(EveryWidth, AndEverySwitchGiveTheReferencePage) {
             PageProperties properties = withSwitches(switches);
             properties.halftoneType = GetParam();
             SCOPED_TRACE(testing::Message() << width << " columns, switches " << switches);
-            expectAsReference(noisyPage(width, width % 5 + 1, width, width + switches),
-                              properties);
+            expectAsReference(noisyPage(width, width % 5 + 1, width, width + switches), properties);
         }
     }
 }
@@ -77,6 +76,6 @@ TEST_P(EveryWidth, AndLongerRowsGiveTheReferencePage) {
 }
 
 INSTANTIATE_TEST_SUITE_P(HalftoneTypes, EveryWidth,
-                         testing::Values(0, 1, 2, 3, 4, 5, 6, 7, 10, -1));
+                         testing::Values(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, -1));
 
 }  // namespace

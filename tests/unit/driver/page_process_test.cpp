@@ -47,8 +47,12 @@ TEST_F(PageProcess, OfAPlainPageIsTracedInFiveLines) {
 }
 
 TEST_F(PageProcess, WithEveryPropertySetIsTracedInTheOrderOfItsSteps) {
-    setProperties(printer, {.brightness = -3, .contrast = 10, .halftoneType = 2, .mirror = true,
-                            .negative = true, .rotate180 = true});
+    setProperties(printer, {.brightness = -3,
+                            .contrast = 10,
+                            .halftoneType = 2,
+                            .mirror = true,
+                            .negative = true,
+                            .rotate180 = true});
     process(cornerPage, 4, 4, 2);
     EXPECT_EQ(log,
               "DEBUG:PageProcess: QM dithering is disabled\n"
@@ -127,8 +131,8 @@ TEST_F(PageProcess, AdjustsTheToneForContrastAlone) {
     EXPECT_TRUE(logHolds("Adjusted brightness to 0 and contrast to 20"));
 }
 
-// The scale of contrast 50 is 2: level 120 is (120 − 128) × 2 + 128 + 35 = 147, level 110 is
-// 127, and level 111 is 129.
+// Brightness 7 adds 35 levels and contrast 50 scales by 2: level 110 becomes
+// (110 − 128) × 2 + 128 + 35 = 127, and level 111 becomes 129.
 TEST_F(PageProcess, ScalesLevelsAroundTheMiddleByTwiceTheContrast) {
     setProperties(printer, {.brightness = 7, .contrast = 50});
     EXPECT_EQ(finishedLevel(110), 0);
@@ -158,13 +162,13 @@ TEST_F(PageProcess, FlipsThePageUpsideDownByRotatingAndMirroring) {
     EXPECT_EQ(finishedCorner(), (Bytes{1, 1, 1, 1, 0, 1, 1, 1}));
 }
 
-// Of two pixels of level 129 Floyd and Steinberg's method makes the first white and hands the
-// second −126 × 7 / 16 = −55, which turns it black; on the mirrored row [129, 0] as on no other.
+// Floyd and Steinberg's method gives the turned row 0, 0, 129, 129 as black, black, white and,
+// less 126 × 7 / 16 = 55, black. Turned after halftoning the white dot would come last.
 TEST_F(PageProcess, TurnsThePageBeforeHalftoning) {
     printer.setHalftoneType(static_cast<DitherType>(10));
     printer.setMirrorPrint(true);
-    process({129, 129, 129, 0}, 4, 4, 1);
-    EXPECT_EQ(bytesOf(*printer.pimage_), (Bytes{0, 1, 0, 1}));
+    process({129, 129, 0, 0}, 4, 4, 1);
+    EXPECT_EQ(bytesOf(*printer.pimage_), (Bytes{0, 0, 1, 0}));
 }
 
 TEST_F(PageProcess, LeavesNoPixelOfValueZeroOnNegativePrinting) {

@@ -17,23 +17,11 @@ protected:
 
     PpdAttribute()
         : ppd(ppdOpenFile(folder
-                              .write("queue.ppd",
-                                     "*PPD-Adobe: \"4.3\"\n"
-                                     "*FormatVersion: \"4.3\"\n"
-                                     "*FileVersion: \"1.0\"\n"
-                                     "*LanguageVersion: English\n"
-                                     "*LanguageEncoding: ISOLatin1\n"
-                                     "*PCFileName: \"TEST.PPD\"\n"
-                                     "*Manufacturer: \"Kesto\"\n"
-                                     "*Product: \"(Test)\"\n"
-                                     "*ModelName: \"Kesto Test\"\n"
-                                     "*ShortNickName: \"Kesto Test\"\n"
-                                     "*NickName: \"Kesto Test\"\n"
-                                     "*PSVersion: \"(3010.000) 0\"\n"
-                                     "*kestoPath: \"/some/where\"\n"
-                                     "*kestoLength: \"12.75\"\n"
-                                     "*kestoSized Small: \"1.5\"\n"
-                                     "*kestoSized Large: \"-2.5e2\"\n")
+                              .write("queue.ppd", std::string(ppdOpening) +
+                                                      "*kestoPath: \"/some/where\"\n"
+                                                      "*kestoLength: \"12.75\"\n"
+                                                      "*kestoSized Small: \"1.5\"\n"
+                                                      "*kestoSized Large: \"-2.5e2\"\n")
                               .c_str())) {}
 
     const char* text(const char* name, const char* spec) const {

@@ -10,20 +10,6 @@ struct PpdCloser {
     void operator()(ppd_file_t* ppd) const { ppdClose(ppd); }
 };
 
-constexpr const char* queue =
-    "*PPD-Adobe: \"4.3\"\n"
-    "*FormatVersion: \"4.3\"\n"
-    "*FileVersion: \"1.0\"\n"
-    "*LanguageVersion: English\n"
-    "*LanguageEncoding: ISOLatin1\n"
-    "*PCFileName: \"TEST.PPD\"\n"
-    "*Manufacturer: \"Kesto\"\n"
-    "*Product: \"(Test)\"\n"
-    "*ModelName: \"Kesto Test\"\n"
-    "*ShortNickName: \"Kesto Test\"\n"
-    "*NickName: \"Kesto Test\"\n"
-    "*PSVersion: \"(3010.000) 0\"\n";
-
 // An option with the given choices, the first of them its default.
 std::string optionText(const std::string& keyword, const std::vector<std::string>& choices) {
     std::string text = "*OpenUI *" + keyword + "/" + keyword + ": PickOne\n" + "*Default" +
@@ -37,7 +23,7 @@ std::string optionText(const std::string& keyword, const std::vector<std::string
 class Queue {
 public:
     explicit Queue(const std::string& options)
-        : ppd_(ppdOpenFile(folder_.write("queue.ppd", queue + options).c_str())) {
+        : ppd_(ppdOpenFile(folder_.write("queue.ppd", ppdOpening + options).c_str())) {
         if (ppd_ == nullptr) {
             throw std::runtime_error("not a valid queue description");
         }
@@ -82,8 +68,9 @@ TEST(PpdChoice, IsNoneForAnUnknownOption) {
 }
 
 TEST(PpdChoice, IsNoneWhereTheDefaultIsNoChoice) {
-    const Queue queue("*OpenUI *Key/Key: PickOne\n*DefaultKey: Third\n*Key First: \"\"\n"
-                      "*CloseUI: *Key\n");
+    const Queue queue(
+        "*OpenUI *Key/Key: PickOne\n*DefaultKey: Third\n*Key First: \"\"\n"
+        "*CloseUI: *Key\n");
     EXPECT_EQ(kestoPpdGetChoice(queue.ppd(), "Key"), nullptr);
 }
 
@@ -94,9 +81,8 @@ TEST(PpdChoice, IsNoneWithoutAPpd) {
 TEST(PpdText, IsTheNameOfTheChoice) {
     Queue queue(optionText("Key", {"First", "Second"}));
     EXPECT_STREQ(kestoPpdGetChoiceAsStrDefault(queue.ppd(), "Key", "none"), "First");
-    EXPECT_STREQ(
-        kestoPpdGetChoiceAsStrDefault(queue.marked("Key", "Second").ppd(), "Key", "none"),
-        "Second");
+    EXPECT_STREQ(kestoPpdGetChoiceAsStrDefault(queue.marked("Key", "Second").ppd(), "Key", "none"),
+                 "Second");
 }
 
 TEST(PpdText, IsTheDefaultWithoutAChoice) {

@@ -17,8 +17,7 @@ TEST(NewPrinter, HasNoImageAndNoPageHeader) {
 }
 
 TEST(NewPrinter, NamesItsDumpsAfterThePrintedImage) {
-    EXPECT_STREQ(TestPrinter().imagePath_,
-                 "/var/spool/cups/tmp/prnimg_%d-%d-%d_%d_%d_%d_%ld.bmp");
+    EXPECT_STREQ(TestPrinter().imagePath_, "/var/spool/cups/tmp/prnimg_%d-%d-%d_%d_%d_%d_%ld.bmp");
 }
 
 TEST(NewPrinter, KeepsItsPathTemplateIn1024Bytes) {

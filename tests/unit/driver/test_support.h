@@ -2,7 +2,9 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -12,7 +14,6 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
-#include <regex>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -22,6 +23,29 @@
 #include "tests/reference/grey_image.h"
 #include "tests/reference/page_process.h"
 #include "tests/reference/text.h"
+
+#if defined(__SANITIZE_ADDRESS__)
+#define KESTO_ADDRESS_SANITIZER
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define KESTO_ADDRESS_SANITIZER
+#endif
+#endif
+
+/// The lines that every queue description begins with.
+inline constexpr const char* ppdOpening =
+    "*PPD-Adobe: \"4.3\"\n"
+    "*FormatVersion: \"4.3\"\n"
+    "*FileVersion: \"1.0\"\n"
+    "*LanguageVersion: English\n"
+    "*LanguageEncoding: ISOLatin1\n"
+    "*PCFileName: \"TEST.PPD\"\n"
+    "*Manufacturer: \"Kesto\"\n"
+    "*Product: \"(Test)\"\n"
+    "*ModelName: \"Kesto Test\"\n"
+    "*ShortNickName: \"Kesto Test\"\n"
+    "*NickName: \"Kesto Test\"\n"
+    "*PSVersion: \"(3010.000) 0\"\n";
 
 /// A folder of its own for one test, removed with its content.
 class TemporaryFolder {
@@ -218,17 +242,16 @@ public:
 private:
     static std::string folder() { return "/var/spool/cups/tmp/"; }
 
-    std::uint64_t firstIndex_ = page_index;
+    // Dumps of other processes at the same time must not bear the same names.
+    static std::uint64_t numbersOfThisProcess() {
+        constexpr std::uint64_t share = 1000000;
+        page_index = std::max(page_index, static_cast<std::uint64_t>(getpid()) * share);
+        return page_index;
+    }
+
+    std::uint64_t firstIndex_ = numbersOfThisProcess();
     TimeWindow window_;
 };
-
-/// A log without what no test can foresee: addresses, and times in the names of dumps.
-inline std::string withoutAddresses(const std::string& log) {
-    const std::string plain = std::regex_replace(
-        log, std::regex("address: (0x[0-9a-f]+|[0-9]+)"), "address: <address>");
-    return std::regex_replace(plain, std::regex("[0-9]+-[0-9]+-[0-9]+_[0-9]+_[0-9]+_[0-9]+_"),
-                              "<time>_");
-}
 
 /// A printer that keeps the pages it is to print, with its fields open to the tests.
 class TestPrinter : public KestoPrinter {
@@ -242,6 +265,7 @@ public:
         bool operator==(const PrintedPage&) const = default;
     };
 
+    using KestoPrinter::ditheredImage_;
     using KestoPrinter::image_;
     using KestoPrinter::imagePath_;
     using KestoPrinter::pimage_;
@@ -263,8 +287,8 @@ protected:
 /// The rows of an image, padding included.
 inline reference::Bytes bytesOf(const RasterImage& image) {
     const std::uint8_t* bits = image.GetBits(0);
-    return {bits, bits + std::size_t{image.GetEffWidth()} *
-                             static_cast<std::size_t>(image.GetHeight())};
+    return {bits,
+            bits + std::size_t{image.GetEffWidth()} * static_cast<std::size_t>(image.GetHeight())};
 }
 
 /// A page header that names a page size.

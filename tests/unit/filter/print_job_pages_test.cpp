@@ -1,0 +1,142 @@
+// The pages of a job, from a raster file.
+#include "filter/print_job.h"
+#include "tests/reference/tspl.h"
+#include "tests/unit/filter/test_support.h"
+
+namespace {
+
+using reference::Page;
+
+constexpr const char* traceFile = "/tmp/xxxxx.log";
+
+QueueText labelQueue() {
+    return QueueText()
+        .sizes({{"w288h432", 288, 432}})
+        .option("PaperType", {"LabelGaps"})
+        .option("GapsHeight", {"2"})
+        .option("HalftoneType", {"None", "Ordered"})
+        .option("Brightness", {"0", "20"})
+        .option("MirrorImage", {"False", "True", "-1"})
+        .option("NegativeImage", {"False", "True"});
+}
+
+reference::Settings labelSettings() {
+    reference::Settings settings;
+    settings.paperType = "LabelGaps";
+    settings.gapsHeight = 2;
+    return settings;
+}
+
+class JobPages : public testing::Test {
+protected:
+    SpoolDumps dumps;
+    const TemporaryFolder folder;
+    const CurrentQueue queue{labelQueue()};
+    bool succeeded = false;
+    std::string log;
+
+    ~JobPages() override { std::filesystem::remove(traceFile); }
+
+    // Prints pages and returns the commands.
+    std::string print(const std::vector<Page>& pages, const char* options = "") {
+        const std::string raster = folder.path("pages.ras");
+        writeRaster(raster, pages);
+        return printFile(raster, options);
+    }
+    std::string printFile(const std::string& raster, const char* options = "") {
+        std::string output;
+        log = errorOutputOf([&] {
+            PrintJob job;
+            EXPECT_TRUE(job.openInput(raster.c_str()));
+            job.createPrinter();
+            job.readSettings(options);
+            output = outputOf([&] { succeeded = job.printPages(); });
+        });
+        return output;
+    }
+    static std::string commands(const Page& page,
+                                const reference::PageProperties& properties = {}) {
+        return reference::tsplPage(labelSettings(), page.header,
+                                   *reference::processPage(page, properties).finished);
+    }
+    bool logHolds(const std::string& line) const {
+        return log.find(line + "\n") != std::string::npos;
+    }
+};
+
+TEST_F(JobPages, OfAnEmptyFileAreNone) {
+    EXPECT_EQ(printFile(folder.write("empty.ras", "")), "");
+    EXPECT_TRUE(succeeded);
+}
+
+TEST_F(JobPages, OfARasterWithoutPagesAreNone) {
+    EXPECT_EQ(print({}), "");
+    EXPECT_TRUE(succeeded);
+}
+
+TEST_F(JobPages, AreSentWithTheirSetUpEach) {
+    const std::vector<Page> pages = {noisyPage(16, 3, 16), noisyPage(21, 2, 21)};
+    EXPECT_EQ(print(pages), commands(pages[0]) + commands(pages[1]));
+    EXPECT_TRUE(succeeded);
+}
+
+TEST_F(JobPages, AreCountedInTheLog) {
+    Page page = noisyPage(8, 1, 8);
+    page.header.copies = 4;
+    print({noisyPage(8, 1, 8), page});
+    EXPECT_TRUE(logHolds("DEBUG:PAGE: 1 1\n"));
+    EXPECT_TRUE(logHolds("DEBUG:PAGE: 2 4\n"));
+}
+
+// 800 dots at 203 per inch are 800 × 25.4 / 203 = 100.0985 mm, 203 dots at 101 are 51.0515 mm.
+TEST_F(JobPages, HaveTheSizeOfTheRasterPage) {
+    Page page = noisyPage(800, 203, 800);
+    page.header.yDpi = 101;
+    EXPECT_EQ(print({page}).find("SIZE 100.1 mm, 51.1 mm\r\n"), 0U);
+    EXPECT_TRUE(logHolds("DEBUG:pageWidth: 100.098518,pageHeight: 51.051487"));
+}
+
+TEST_F(JobPages, AreCopiedAsOftenAsTheirHeaderSays) {
+    Page page = noisyPage(8, 1, 8);
+    page.header.copies = 3;
+    EXPECT_NE(print({page}, "copies=9").find("\r\nPRINT 1,3\r\n"), std::string::npos);
+}
+
+TEST_F(JobPages, AreProcessedByTheSettings) {
+    const Page page = noisyPage(16, 5, 16);
+    EXPECT_EQ(print({page}, "HalftoneType=Ordered"), commands(page, {.halftoneType = 2}));
+    EXPECT_EQ(print({page}, "Brightness=20"), commands(page, {.brightness = 20}));
+    EXPECT_EQ(print({page}, "MirrorImage=-1"), commands(page, {.mirror = true}));
+    EXPECT_EQ(print({page}, "NegativeImage=True"), commands(page, {.negative = true}));
+}
+
+TEST_F(JobPages, LeaveTheSizesOfTheLastInTheTrace) {
+    print({noisyPage(8, 1, 8), noisyPage(12, 2, 12)});
+    EXPECT_EQ(readFile(traceFile),
+              "cupsWidth:12, cupsHeight:2, cupsBytesPerLine:12, cupsBitsPerPixel:8\n");
+}
+
+TEST_F(JobPages, EndInFailureAtOneOfAnotherDepth) {
+    const Page good = noisyPage(8, 1, 8);
+    Page bad = noisyPage(8, 1, 1);
+    bad.header.bitsPerPixel = 1;
+    bad.header.bitsPerColor = 1;
+    EXPECT_EQ(print({good, bad, good}), commands(good));
+    EXPECT_FALSE(succeeded);
+    EXPECT_TRUE(logHolds("ERROR:Unsupported bits per pixel : 1 ! Requires 8 bits per pixel!"));
+}
+
+// The file ends 9 bytes into the pixels, which follow 4 bytes and the header of 1796.
+TEST_F(JobPages, AreDroppedWhenTheirPixelsCannotBeRead) {
+    const Page page = noisyPage(16, 40, 16);
+    const std::string raster = folder.path("pages.ras");
+    writeRaster(raster, {page, page});
+    const std::string content = readFile(raster);
+    const std::string output = printFile(folder.write("cut.ras", content.substr(0, 4 + 1796 + 9)));
+    EXPECT_EQ(output, reference::setUpBlock(reference::withPageSize(labelSettings(), page.header)) +
+                          "CLS\r\n");
+    EXPECT_TRUE(succeeded);
+    EXPECT_TRUE(logHolds("DEBUG:PAGE: 1 1\n"));
+}
+
+}  // namespace

@@ -1,0 +1,55 @@
+#include "tests/unit/image/test_memory.h"
+
+#include <cstdlib>
+
+namespace {
+
+std::ptrdiff_t sLiveBlocks = 0;
+bool sNoMemory = false;
+
+void* counted(void* block) {
+    sLiveBlocks += block != nullptr ? 1 : 0;
+    return block;
+}
+
+}  // namespace
+
+// The linker leads calls of malloc to __wrap_malloc and calls of __real_malloc to malloc; the
+// names are its own.
+// NOLINTBEGIN(bugprone-reserved-identifier)
+extern "C" {
+
+void* __real_malloc(std::size_t size);
+void* __real_calloc(std::size_t count, std::size_t size);
+void __real_free(void* block);
+
+void* __wrap_malloc(std::size_t size);
+void* __wrap_calloc(std::size_t count, std::size_t size);
+void __wrap_free(void* block);
+
+void* __wrap_malloc(std::size_t size) {
+    return sNoMemory ? nullptr : counted(__real_malloc(size));
+}
+
+void* __wrap_calloc(std::size_t count, std::size_t size) {
+    return sNoMemory ? nullptr : counted(__real_calloc(count, size));
+}
+
+void __wrap_free(void* block) {
+    sLiveBlocks -= block != nullptr ? 1 : 0;
+    __real_free(block);
+}
+}
+// NOLINTEND(bugprone-reserved-identifier)
+
+std::ptrdiff_t liveBlocks() {
+    return sLiveBlocks;
+}
+
+NoMemory::NoMemory() {
+    sNoMemory = true;
+}
+
+NoMemory::~NoMemory() {
+    sNoMemory = false;
+}
