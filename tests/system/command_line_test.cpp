@@ -4,9 +4,9 @@
 
 #include "tests/reference/job_log.h"
 #include "tests/reference/tspl.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/system/comparison.h"
 #include "tests/system/ppd_writer.h"
-#include "tests/system/temporary_folder.h"
 #include "tests/system/test_job.h"
 
 namespace {

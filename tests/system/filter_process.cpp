@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <stdexcept>
 
-#include "tests/system/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace {
 
@@ -29,9 +29,9 @@ void becomeUser(uid_t user) {
 }
 
 [[noreturn]] void startFilter(const FilterCall& call, const TemporaryFolder& streams) {
-    connect(STDIN_FILENO, streams.path("in").string(), O_RDONLY);
-    connect(STDOUT_FILENO, streams.path("out").string(), O_WRONLY | O_CREAT);
-    connect(STDERR_FILENO, streams.path("err").string(), O_WRONLY | O_CREAT);
+    connect(STDIN_FILENO, streams.path("in"), O_RDONLY);
+    connect(STDOUT_FILENO, streams.path("out"), O_WRONLY | O_CREAT);
+    connect(STDERR_FILENO, streams.path("err"), O_WRONLY | O_CREAT);
     // The program is opened here because an ordinary user may not reach the build folder.
     const int program = open(call.program.c_str(), O_RDONLY | O_CLOEXEC);
     if (!call.workingFolder.empty() && chdir(call.workingFolder.c_str()) != 0) {

@@ -1,30 +1,13 @@
 #include "tests/system/ppd_writer.h"
 
 #include "tests/reference/text.h"
+#include "tests/support/ppd_opening.h"
 
 namespace {
 
 constexpr const char* halftoneNames[] = {"None",   "FloydSteinberg",    "Ordered", "Burkes",
                                          "Stucki", "JarvisJudiceNinke", "Sierra",  "StevensonArce",
                                          "Tattoo", "Tattoo_X8"};
-
-constexpr const char* opening =
-    "*PPD-Adobe: \"4.3\"\n"
-    "*FormatVersion: \"4.3\"\n"
-    "*FileVersion: \"1.0\"\n"
-    "*LanguageVersion: English\n"
-    "*LanguageEncoding: ISOLatin1\n"
-    "*PCFileName: \"TEST.PPD\"\n"
-    "*Manufacturer: \"Kesto\"\n"
-    "*Product: \"(Test)\"\n"
-    "*ModelName: \"Kesto Test\"\n"
-    "*ShortNickName: \"Kesto Test\"\n"
-    "*NickName: \"Kesto Test\"\n"
-    "*PSVersion: \"(3010.000) 0\"\n"
-    "*LanguageLevel: \"3\"\n"
-    "*ColorDevice: False\n"
-    "*DefaultColorSpace: Gray\n"
-    "*FileSystem: False\n";
 
 std::string choiceLine(const std::string& keyword, const std::string& choice) {
     return "*" + keyword + " " + choice + ": \"\"\n";
@@ -59,7 +42,7 @@ void PpdWriter::setPageSize(const std::string& name, const reference::PpdSize& s
 }
 
 std::string PpdWriter::text() const {
-    std::string ppd = opening + attributes_;
+    std::string ppd = ppdOpening + attributes_;
     for (const auto& [keyword, option] : options_) {
         ppd.append("*OpenUI *").append(keyword).append(": PickOne\n");
         ppd.append("*OrderDependency: 10 AnySetup *").append(keyword).append("\n");

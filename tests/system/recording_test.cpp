@@ -2,9 +2,9 @@
 
 #include <filesystem>
 
+#include "tests/support/temporary_folder.h"
 #include "tests/system/comparison.h"
 #include "tests/system/ppd_writer.h"
-#include "tests/system/temporary_folder.h"
 #include "tests/system/test_job.h"
 
 namespace {
@@ -23,7 +23,7 @@ struct RecordedRun {
         call.arguments = {"1", "user", "title", "1", ""};
         call.environment = {{"PPD", folder.write("queue.ppd", ppd.text())}};
         call.standardInput = rasterStream(job.pages, RasterForm::Plain);
-        call.workingFolder = folder.path("").string();
+        call.workingFolder = folder.path("");
         result = runFilter(call);
     }
 
@@ -47,7 +47,7 @@ struct RecordedRun {
 
 TEST(Recording, HoldsTheSameBytesAsStandardOutputUnderANameWithTheLocalTime) {
     const TemporaryFolder target;
-    const std::string base = target.path("rec").string();
+    const std::string base = target.path("rec");
     RecordedRun run("1", base);
     std::string name;
     for (const auto& entry : fs::directory_iterator(target.path(""))) {

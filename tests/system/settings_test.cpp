@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/temporary_folder.h"
 #include "tests/system/comparison.h"
 #include "tests/system/ppd_writer.h"
-#include "tests/system/temporary_folder.h"
 #include "tests/system/test_job.h"
 
 namespace {

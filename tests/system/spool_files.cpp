@@ -8,7 +8,7 @@
 #include <regex>
 #include <sstream>
 
-#include "tests/system/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace fs = std::filesystem;
 
@@ -51,7 +51,7 @@ std::vector<DumpFile> SpoolFiles::takeDumps() const {
             times.count(match[2]) == 0) {
             continue;
         }
-        const std::string content = readFile(dumpFolder / name);
+        const std::string content = readFile((dumpFolder / name).string());
         dumps.push_back({name, match[1], std::stol(match[3]), {content.begin(), content.end()}});
         fs::remove(dumpFolder / name);
     }
@@ -64,7 +64,7 @@ std::optional<std::string> SpoolFiles::takeTrace() const {
     if (!fs::exists(traceFile)) {
         return std::nullopt;
     }
-    std::string content = readFile(traceFile);
+    std::string content = readFile(traceFile.string());
     fs::remove(traceFile);
     return content;
 }

@@ -2,10 +2,10 @@
 
 #include <random>
 
+#include "tests/support/temporary_folder.h"
 #include "tests/system/comparison.h"
 #include "tests/system/ppd_writer.h"
 #include "tests/system/spool_files.h"
-#include "tests/system/temporary_folder.h"
 
 using reference::Job;
 using reference::Page;

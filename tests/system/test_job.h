@@ -3,8 +3,8 @@
 #include <string>
 
 #include "tests/reference/job.h"
+#include "tests/support/raster_writer.h"
 #include "tests/system/filter_process.h"
-#include "tests/system/raster_writer.h"
 
 /// A 203 dpi page of `height` rows × `width` dots with photograph-like grey: a gradient with
 /// noise on it, the same for the same `seed`.

@@ -23,6 +23,8 @@
 #include "tests/reference/grey_image.h"
 #include "tests/reference/page_process.h"
 #include "tests/reference/text.h"
+#include "tests/support/ppd_opening.h"
+#include "tests/support/temporary_folder.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 #define KESTO_ADDRESS_SANITIZER
@@ -31,68 +33,6 @@
 #define KESTO_ADDRESS_SANITIZER
 #endif
 #endif
-
-/// The lines that every queue description begins with.
-inline constexpr const char* ppdOpening =
-    "*PPD-Adobe: \"4.3\"\n"
-    "*FormatVersion: \"4.3\"\n"
-    "*FileVersion: \"1.0\"\n"
-    "*LanguageVersion: English\n"
-    "*LanguageEncoding: ISOLatin1\n"
-    "*PCFileName: \"TEST.PPD\"\n"
-    "*Manufacturer: \"Kesto\"\n"
-    "*Product: \"(Test)\"\n"
-    "*ModelName: \"Kesto Test\"\n"
-    "*ShortNickName: \"Kesto Test\"\n"
-    "*NickName: \"Kesto Test\"\n"
-    "*PSVersion: \"(3010.000) 0\"\n";
-
-/// A folder of its own for one test, removed with its content.
-class TemporaryFolder {
-public:
-    TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "kesto-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) {
-            throw std::runtime_error("no temporary folder " + name);
-        }
-        folder_ = name;
-    }
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder_, ignored);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    std::string path(const std::string& name) const { return (folder_ / name).string(); }
-    /// Writes a file and returns its path.
-    std::string write(const std::string& name, const std::string& content) const {
-        std::ofstream(path(name), std::ios::binary) << content;
-        return path(name);
-    }
-    /// Names of the files in it.
-    std::set<std::string> names() const {
-        std::set<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
-            names.insert(entry.path().filename().string());
-        }
-        return names;
-    }
-
-private:
-    std::filesystem::path folder_;
-};
-
-/// The whole content of a file; empty when it cannot be read.
-inline std::string readFile(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-inline reference::Bytes readBytes(const std::string& path) {
-    const std::string content = readFile(path);
-    return {content.begin(), content.end()};
-}
 
 /// What `action` writes to standard error.
 template <typename Action>

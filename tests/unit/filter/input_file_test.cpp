@@ -1,5 +1,7 @@
 #include "filter/input_file.h"
 
+#include <fcntl.h>
+
 #include <memory>
 
 #include "tests/unit/filter/test_support.h"

@@ -39,9 +39,8 @@ protected:
 
     // Prints pages and returns the commands.
     std::string print(const std::vector<Page>& pages, const char* options = "") {
-        const std::string raster = folder.path("pages.ras");
-        writeRaster(raster, pages);
-        return printFile(raster, options);
+        return printFile(folder.write("pages.ras", rasterStream(pages, RasterForm::Plain)),
+                         options);
     }
     std::string printFile(const std::string& raster, const char* options = "") {
         std::string output;
@@ -126,13 +125,12 @@ TEST_F(JobPages, EndInFailureAtOneOfAnotherDepth) {
     EXPECT_TRUE(logHolds("ERROR:Unsupported bits per pixel : 1 ! Requires 8 bits per pixel!"));
 }
 
-// The file ends 9 bytes into the pixels, which follow 4 bytes and the header of 1796.
+// The file ends 9 bytes into the pixels.
 TEST_F(JobPages, AreDroppedWhenTheirPixelsCannotBeRead) {
     const Page page = noisyPage(16, 40, 16);
-    const std::string raster = folder.path("pages.ras");
-    writeRaster(raster, {page, page});
-    const std::string content = readFile(raster);
-    const std::string output = printFile(folder.write("cut.ras", content.substr(0, 4 + 1796 + 9)));
+    const std::string content = rasterStream({page, page}, RasterForm::Plain);
+    const std::size_t kept = rasterSyncBytes + rasterHeaderBytes + 9;
+    const std::string output = printFile(folder.write("cut.ras", content.substr(0, kept)));
     EXPECT_EQ(output, reference::setUpBlock(reference::withPageSize(labelSettings(), page.header)) +
                           "CLS\r\n");
     EXPECT_TRUE(succeeded);

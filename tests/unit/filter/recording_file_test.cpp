@@ -1,5 +1,7 @@
 #include "filter/recording_file.h"
 
+#include <fcntl.h>
+
 #include "tests/unit/filter/test_support.h"
 
 namespace {

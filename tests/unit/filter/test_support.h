@@ -1,8 +1,6 @@
 // What the tests of the filter share.
 #pragma once
 
-#include <cups/raster.h>
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <string>
@@ -12,6 +10,7 @@
 #include "filter/current_printer.h"
 #include "filter/settings.h"
 #include "tests/reference/page.h"
+#include "tests/support/raster_writer.h"
 #include "tests/unit/driver/test_support.h"
 
 /// Puts a printer up as `sPrinter` for one test; its commands end up in a text.
@@ -96,27 +95,3 @@ private:
     std::string path_;
     EnvironmentVariable environment_;
 };
-
-/// Writes pages as a raster file.
-inline void writeRaster(const std::string& path, const std::vector<reference::Page>& pages) {
-    const int file = open(path.c_str(), O_CREAT | O_WRONLY | O_TRUNC, 0600);
-    cups_raster_t* raster = cupsRasterOpen(file, CUPS_RASTER_WRITE);
-    for (const reference::Page& page : pages) {
-        cups_page_header2_t header = {};
-        header.cupsWidth = page.header.width;
-        header.cupsHeight = page.header.height;
-        header.cupsBytesPerLine = page.header.bytesPerLine;
-        header.cupsBitsPerPixel = page.header.bitsPerPixel;
-        header.cupsBitsPerColor = page.header.bitsPerColor;
-        header.cupsColorSpace = CUPS_CSPACE_W;
-        header.cupsNumColors = 1;
-        header.HWResolution[0] = page.header.xDpi;
-        header.HWResolution[1] = page.header.yDpi;
-        header.NumCopies = page.header.copies;
-        cupsRasterWriteHeader2(raster, &header);
-        reference::Bytes rows = page.rows;
-        cupsRasterWritePixels(raster, rows.data(), static_cast<unsigned>(rows.size()));
-    }
-    cupsRasterClose(raster);
-    close(file);
-}

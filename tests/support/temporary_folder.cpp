@@ -1,4 +1,4 @@
-#include "tests/system/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -24,13 +24,25 @@ TemporaryFolder::~TemporaryFolder() {
     fs::remove_all(folder_, ignored);
 }
 
-std::string TemporaryFolder::write(std::string_view name, std::string_view content) const {
-    const fs::path file = path(name);
-    std::ofstream(file, std::ios::binary) << content;
-    return file.string();
+std::string TemporaryFolder::write(const std::string& name, const std::string& content) const {
+    std::ofstream(path(name), std::ios::binary) << content;
+    return path(name);
 }
 
-std::string readFile(const fs::path& path) {
+std::set<std::string> TemporaryFolder::names() const {
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder_)) {
+        names.insert(entry.path().filename().string());
+    }
+    return names;
+}
+
+std::string readFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+reference::Bytes readBytes(const std::string& path) {
+    const std::string content = readFile(path);
+    return {content.begin(), content.end()};
 }

@@ -1,4 +1,4 @@
-#include "tests/system/raster_writer.h"
+#include "tests/support/raster_writer.h"
 
 #include <cups/raster.h>
 
