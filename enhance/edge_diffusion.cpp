@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "enhance/numeric.h"
-
 namespace {
 
 constexpr unsigned char black = 0;
@@ -39,8 +37,9 @@ void spread(ErrorRows& errors, float error, int x, int width, bool below) {
     constexpr Cell ahead[] = {{1, 0.505786F}, {2, -0.052926F}};
     constexpr Cell under[] = {{-2, 0.226194F}, {-1, 0.128835F}, {0, 0.243191F}, {1, -0.111078F}};
     const auto add = [=](std::vector<float>& row, const Cell& cell) {
-        if (x + cell.dx >= 0 && x + cell.dx < width) {
-            row[static_cast<std::size_t>(x + cell.dx)] += error * cell.weight;
+        const int column = x + cell.dx;
+        if (column >= 0 && column < width) {
+            row[static_cast<std::size_t>(column)] += error * cell.weight;
         }
     };
     for (const Cell& cell : ahead) {

@@ -1,6 +1,7 @@
 #include "enhance/gaussian.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <vector>
 
 #include "enhance/numeric.h"
@@ -138,7 +139,8 @@ QMImage enh_gaussian_filter(const QMImage& src, int ksize, double sigmaX, double
         double sum = 0.0;
         for (int j = -taps.half; j <= taps.last; ++j) {
             const unsigned char* row = nearestRow(src, y + j);
-            const double* weights = kernel.data() + (j + taps.half) * ksize + taps.half;
+            const double* weights =
+                kernel.data() + std::ptrdiff_t{j + taps.half} * ksize + taps.half;
             for (int i = -taps.half; i <= taps.last; ++i) {
                 const int xs = myClamp(x + i, 0, src.width - 1);
                 sum = static_cast<double>(row[xs]) * weights[i] + sum;
