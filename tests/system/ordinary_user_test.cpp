@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <pwd.h>
 
-#include <algorithm>
+#include <filesystem>
 #include <regex>
 
 #include "tests/support/temporary_folder.h"
@@ -31,6 +31,10 @@ TEST(OrdinaryUser, WithoutADumpFolderEachPageLogsTwoLinesAndPrints) {
         {"PPD", folder.write("queue.ppd", ppdFor(job.settings, job.ppdSize).text())}};
     call.standardInput = rasterStream(job.pages, RasterForm::Plain);
     call.userId = nobody->pw_uid;
+    // A filter that counts its coverage must find a place for the counters, or it complains.
+    const TemporaryFolder counters;
+    std::filesystem::permissions(counters.path(""), std::filesystem::perms::all);
+    call.environment.emplace_back("GCOV_PREFIX", counters.path(""));
     const SpoolFiles files;
     FilterResult result = runFilter(call);
     result.standardError = withoutTimes(result.standardError);
