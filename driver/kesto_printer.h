@@ -9,6 +9,7 @@
 #include <span>
 
 #include "driver/halftone_type.h"
+#include "image/malloc_buffer.h"
 #include "image/raster_image.h"
 
 /// A printer: takes grey pages through tone, geometry and halftoning to a finished image, and
@@ -167,6 +168,8 @@ private:
                                std::size_t height, std::size_t width) const;
     void printInBuffers(const unsigned char* data, std::size_t bytesPerLine, std::size_t height,
                         std::size_t width);
+    MallocBuffer processAndPrint(const unsigned char* data, std::size_t bytesPerLine,
+                                 std::size_t height, std::size_t width, BlankEdges edges);
     void logProcessedPage(const unsigned char* processed, std::size_t bytesPerLine,
                           std::size_t height, std::size_t width, BlankEdges edges) const;
     void dumpRawPage(const unsigned char* data, std::size_t bytesPerLine, std::size_t height,

@@ -48,22 +48,7 @@ void KestoPrinter::printInBuffers(const unsigned char* data, std::size_t bytesPe
     const BlankEdges edges = countBlankEdges(data, bytesPerLine, height, width);
     dumpRawPage(data, bytesPerLine, height, width);
 
-    const MallocBuffer processed = allocateZeroed(2 * size);
-    if (processed) {
-        kestoLogCommon(kestoLogTrace,
-                       "printImage: Memory for processing result allocated successfully, "
-                       "size: %zu bytes",
-                       size);
-        PageProcess(halftoneType_, data, static_cast<int>(bytesPerLine), static_cast<int>(width),
-                    static_cast<int>(height), {processed.get(), 2 * size});
-        logProcessedPage(processed.get(), bytesPerLine, height, width, edges);
-        dumpFinishedImage();
-        printFinishedImage();
-    } else {
-        kestoLogCommon(kestoLogError,
-                       "printImage: Memory allocation for processing result failed, unable to "
-                       "continue processing");
-    }
+    const MallocBuffer processed = processAndPrint(data, bytesPerLine, height, width, edges);
 
     scratch.reset();
     kestoLogCommon(kestoLogTrace, "printImage: Freed the allocated memory, address: %p",
@@ -73,6 +58,30 @@ void KestoPrinter::printInBuffers(const unsigned char* data, std::size_t bytesPe
                        "printImage: Freed the memory for processing result, address: %p",
                        static_cast<void*>(processed.get()));
     }
+}
+
+// Hands back the processing buffer, null when it could not be had.
+MallocBuffer KestoPrinter::processAndPrint(const unsigned char* data, std::size_t bytesPerLine,
+                                           std::size_t height, std::size_t width,
+                                           BlankEdges edges) {
+    const std::size_t size = bytesPerLine * height;
+    MallocBuffer processed = allocateZeroed(2 * size);
+    if (!processed) {
+        kestoLogCommon(kestoLogError,
+                       "printImage: Memory allocation for processing result failed, unable to "
+                       "continue processing");
+        return processed;
+    }
+    kestoLogCommon(kestoLogTrace,
+                   "printImage: Memory for processing result allocated successfully, "
+                   "size: %zu bytes",
+                   size);
+    PageProcess(halftoneType_, data, static_cast<int>(bytesPerLine), static_cast<int>(width),
+                static_cast<int>(height), {processed.get(), 2 * size});
+    logProcessedPage(processed.get(), bytesPerLine, height, width, edges);
+    dumpFinishedImage();
+    printFinishedImage();
+    return processed;
 }
 
 // The row length goes in as the examined width and the width as the row distance: the two are
