@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "driver/kesto_printer.h"
 #include "driver/log.h"
 
@@ -34,13 +36,14 @@ void KestoPrinter::copyProcessedPixels(const RasterImage* image, std::span<unsig
 }
 
 int KestoPrinter::GrayToMono(int bpl, int h, unsigned char* buf) const {
-    const auto rowBytes = static_cast<std::size_t>(bpl);
+    const auto rowBytes = static_cast<std::size_t>(std::max(bpl, 0));
+    const auto rows = static_cast<std::size_t>(std::max(h, 0));
     const bool skips = skipRightPixels_ != 0 && skipRightPixels_ < rowBytes;
     const std::size_t used = skips ? rowBytes - skipRightPixels_ : rowBytes;
     kestoLogCommon(kestoLogTrace, "GrayToMono, bpl(%d), h(%d), skipPixels(%d), wb(%d)", bpl, h,
                    static_cast<int>(skipRightPixels_), static_cast<int>(used));
     std::size_t written = 0;
-    for (std::size_t y = 0; y < static_cast<std::size_t>(h); ++y) {
+    for (std::size_t y = 0; y < rows; ++y) {
         unsigned packed = 0;
         for (std::size_t x = 0; x < used; ++x) {
             packed |= buf[y * rowBytes + x] != 0 ? 0x80U >> (x % 8) : 0;

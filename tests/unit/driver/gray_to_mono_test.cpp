@@ -47,6 +47,11 @@ TEST(GrayToMono, ReadsRowsByTheirFullLengthWhenColumnsAreSkipped) {
     EXPECT_EQ(pack({1, 0, 0, 1, 0, 1, 1, 1}, 4, 2, 2).packed, (Bytes{0x80, 0x40}));
 }
 
+TEST(GrayToMono, PacksNothingForANegativeSize) {
+    EXPECT_EQ(pack(Bytes(8, 1), 8, -1).length, 0);
+    EXPECT_EQ(pack(Bytes(8, 1), -8, 1).length, 0);
+}
+
 TEST(GrayToMono, IgnoresASkipThatLeavesNothing) {
     EXPECT_EQ(pack(Bytes(8, 1), 8, 1, 8).packed, Bytes{0xFF});
     EXPECT_EQ(pack(Bytes(8, 1), 8, 1, 9).packed, Bytes{0xFF});
