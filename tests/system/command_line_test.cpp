@@ -41,11 +41,8 @@ TEST(CommandLine, SixArgumentsReadTheRasterFromStandardInput) {
 TEST(CommandLine, SevenArgumentsReadTheRasterFromTheNamedFile) {
     const TemporaryFolder folder;
     const reference::Job job = labelJob({greyPage(16, 5)});
-    FilterCall call =
-        callWith({"1", "user", "title", "1", "",
-                  folder.write("page.ras", rasterStream(job.pages, RasterForm::Plain))});
-    call.environment = {
-        {"PPD", folder.write("queue.ppd", ppdFor(job.settings, job.ppdSize).text())}};
+    FilterCall call = callFor(job, folder);
+    call.arguments.push_back(folder.write("page.ras", call.standardInput));
     call.standardInput = "not a raster";
     const SpoolFiles files;
     expectOutcome(reference::runJob(job), runFilter(call), files);
@@ -87,10 +84,8 @@ TEST(CommandLine, TheCopiesArgumentHasNoEffectButTheRasterHeaderHas) {
     const TemporaryFolder folder;
     reference::Job job = labelJob({greyPage(16, 5)});
     job.pages[0].header.copies = 3;
-    FilterCall call = callWith({"1", "user", "title", "7", ""});
-    call.environment = {
-        {"PPD", folder.write("queue.ppd", ppdFor(job.settings, job.ppdSize).text())}};
-    call.standardInput = rasterStream(job.pages, RasterForm::Plain);
+    FilterCall call = callFor(job, folder);
+    call.arguments[3] = "7";
     const SpoolFiles files;
     const FilterResult result = runFilter(call);
     EXPECT_NE(result.standardOutput.find("\r\nPRINT 1,3\r\n"), std::string::npos);

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <grp.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -20,6 +21,13 @@ void connect(int descriptor, const std::string& path, int flags) {
         _exit(127);
     }
     close(file);
+}
+
+void limitAddressSpace(std::size_t bytes) {
+    const rlimit limit = {bytes, bytes};
+    if (setrlimit(RLIMIT_AS, &limit) != 0) {
+        _exit(127);
+    }
 }
 
 void becomeUser(uid_t user) {
@@ -48,6 +56,9 @@ void becomeUser(uid_t user) {
     alarm(longestRunInSeconds);
     if (call.userId) {
         becomeUser(*call.userId);
+    }
+    if (call.addressSpace) {
+        limitAddressSpace(*call.addressSpace);
     }
     fexecve(program, arguments.data(), environ);
     _exit(127);

@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
@@ -13,8 +14,9 @@ struct FilterCall {
     std::vector<std::string> arguments;  ///< behind the program's name
     std::string standardInput;           ///< all that it can read there
     std::vector<std::pair<std::string, std::string>> environment;
-    std::string workingFolder;    ///< empty for the current one
-    std::optional<uid_t> userId;  ///< user and group to run as; needs root
+    std::string workingFolder;                ///< empty for the current one
+    std::optional<uid_t> userId;              ///< user and group to run as; needs root
+    std::optional<std::size_t> addressSpace;  ///< most bytes of memory that it may map
 };
 
 /// What a finished filter process left behind on its standard streams.

@@ -25,11 +25,7 @@ TEST(OrdinaryUser, WithoutADumpFolderEachPageLogsTwoLinesAndPrints) {
     const TemporaryFolder folder;
     reference::Job job = labelJob({greyPage(40, 12), greyPage(13, 3)});
     job.dumpFolderWritable = false;
-    FilterCall call;
-    call.arguments = {"1", "user", "title", "1", ""};
-    call.environment = {
-        {"PPD", folder.write("queue.ppd", ppdFor(job.settings, job.ppdSize).text())}};
-    call.standardInput = rasterStream(job.pages, RasterForm::Plain);
+    FilterCall call = callFor(job, folder);
     call.userId = nobody->pw_uid;
     // A filter that counts its coverage must find a place for the counters, or it complains.
     const TemporaryFolder counters;
@@ -44,11 +40,7 @@ TEST(OrdinaryUser, WithoutADumpFolderEachPageLogsTwoLinesAndPrints) {
 TEST(OrdinaryUser, ATraceFileThatCannotBeOpenedIsIgnored) {
     const TemporaryFolder folder;
     const reference::Job job = labelJob({greyPage(16, 3)});
-    FilterCall call;
-    call.arguments = {"1", "user", "title", "1", ""};
-    call.environment = {
-        {"PPD", folder.write("queue.ppd", ppdFor(job.settings, job.ppdSize).text())}};
-    call.standardInput = rasterStream(job.pages, RasterForm::Plain);
+    FilterCall call = callFor(job, folder);
     const SpoolFiles files;
     // A folder of the trace file's name cannot be opened for writing, not even by root.
     ASSERT_TRUE(std::filesystem::create_directory("/tmp/xxxxx.log"));

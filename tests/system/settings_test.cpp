@@ -89,11 +89,7 @@ TEST(Settings, ThePageSizeOfTheRasterReplacesThatOfTheQueue) {
     reference::Job job = labelJob({greyPage(800, 2)});
     job.ppdSize = {true, 72, 72, 0, 0, 72, 72};
     const TemporaryFolder folder;
-    FilterCall call;
-    call.arguments = {"1", "user", "title", "1", ""};
-    call.environment = {
-        {"PPD", folder.write("queue.ppd", ppdFor(job.settings, job.ppdSize).text())}};
-    call.standardInput = rasterStream(job.pages, RasterForm::Plain);
+    FilterCall call = callFor(job, folder);
     const SpoolFiles files;
     const FilterResult result = runFilter(call);
     // 800 × 25.4 / 203 is 100.098..., 2 × 25.4 / 203 is 0.250...
@@ -111,11 +107,7 @@ TEST(Settings, TheWholeStreamOfASmallLabelIsAsWrittenHere) {
     page.rows[0] = page.rows[9] = page.rows[31] = 0;
     job.pages = {page};
     const TemporaryFolder folder;
-    FilterCall call;
-    call.arguments = {"1", "user", "title", "1", ""};
-    call.environment = {
-        {"PPD", folder.write("queue.ppd", ppdFor(job.settings, job.ppdSize).text())}};
-    call.standardInput = rasterStream(job.pages, RasterForm::Plain);
+    FilterCall call = callFor(job, folder);
     const SpoolFiles files;
     const FilterResult result = runFilter(call);
     files.takeDumps();

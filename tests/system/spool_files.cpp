@@ -1,7 +1,5 @@
 #include "tests/system/spool_files.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <iomanip>
@@ -78,8 +76,4 @@ std::set<std::string> SpoolFiles::timesSinceStart(const char* format) const {
         times.insert(text.str());
     }
     return times;
-}
-
-bool SpoolFiles::canWriteDumps() {
-    return access(dumpFolder.c_str(), W_OK) == 0;
 }

@@ -30,9 +30,6 @@ public:
     /// Local times from the start until now, as `strftime` writes them in `format`.
     std::set<std::string> timesSinceStart(const char* format) const;
 
-    /// Whether this user can write dumps at all.
-    static bool canWriteDumps();
-
 private:
     std::set<std::string> namesBefore_;
     std::time_t start_;

@@ -42,6 +42,15 @@ Job labelJob(std::vector<Page> pages) {
     return job;
 }
 
+FilterCall callFor(const Job& job, const TemporaryFolder& folder) {
+    FilterCall call;
+    call.arguments = {"17", "anna", "Two labels", "1", ""};
+    call.environment = {
+        {"PPD", folder.write("queue.ppd", ppdFor(job.settings, job.ppdSize).text())}};
+    call.standardInput = rasterStream(job.pages, RasterForm::Plain);
+    return call;
+}
+
 void expectPrintsAsReference(const Job& job, RasterForm form) {
     expectPrintsAsReference(job, rasterStream(job.pages, form));
 }
@@ -49,12 +58,9 @@ void expectPrintsAsReference(const Job& job, RasterForm form) {
 void expectPrintsAsReference(const Job& job, const std::string& raster,
                              const std::string& program) {
     const TemporaryFolder folder;
-    const std::string ppd = folder.write("queue.ppd", ppdFor(job.settings, job.ppdSize).text());
-    const SpoolFiles files;
-    FilterCall call;
+    FilterCall call = callFor(job, folder);
     call.program = program;
-    call.arguments = {"17", "anna", "Two labels", "1", ""};
     call.standardInput = raster;
-    call.environment = {{"PPD", ppd}};
+    const SpoolFiles files;
     expectOutcome(reference::runJob(job), runFilter(call), files);
 }
