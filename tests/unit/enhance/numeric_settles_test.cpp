@@ -34,7 +34,7 @@ void forEveryPlaceOnACurve(Check check) {
     }
 }
 
-TEST(NumericSettles, InTheLogarithmOfEveryPlaceOnATonesCurve) {
+TEST(NumericSettles, InTheLogarithmOfEveryRatioOfTheToneCurves) {
     forEveryPlaceOnACurve([](float place) {
         ASSERT_TRUE(isSame(my_ln(place), reference::logarithm(place))) << place;
     });

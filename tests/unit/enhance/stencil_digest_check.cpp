@@ -39,10 +39,13 @@ int countDifferences() {
 
 }  // namespace
 
+// What CTest shows as skipped.
+constexpr int skipped = 77;
+
 int main() {
     if (!canRunHere()) {
         std::puts("left out: this processor has no AVX2 or no FMA");
-        return 0;
+        return skipped;
     }
     const int differences = countDifferences();
     std::printf("%d pages differ\n", differences);

@@ -29,7 +29,7 @@ protected:
     }
 };
 
-TEST_P(StencilsOf, EveryWidthAreThoseOfTheReference) {
+TEST_P(StencilsOf, EveryWidthEqualTheReference) {
     for (int width = 1; width <= 130 && !HasFailure(); ++width) {
         for (const int height : {1, 2, 3, 5, 12, 31}) {
             expectAsReference(width, height, static_cast<std::uint32_t>(width + 1000 * height));
@@ -45,7 +45,7 @@ TEST_P(StencilsOf, EveryHeightAreThoseOfTheReference) {
     }
 }
 
-TEST_P(StencilsOf, ALargePageAreThoseOfTheReference) {
+TEST_P(StencilsOf, ALargePageEqualTheReference) {
     expectAsReference(608, 401, 21);
 }
 
