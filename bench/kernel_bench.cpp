@@ -6,6 +6,7 @@
 #include <cstring>
 #include <vector>
 
+#include "enhance/tattoo_dithering.h"
 #include "image/raster_image.h"
 
 namespace {
@@ -74,5 +75,16 @@ void Negative(benchmark::State& state) {
     measure(state, [](RasterImage& image) { image.Negative(); });
 }
 BENCHMARK(Negative);
+
+void Stencil(benchmark::State& state) {
+    const std::vector<std::uint8_t> page = greyPage();
+    const QMImage image(width, height, QM_IMG_GRAY, page.data());
+    for (auto _ : state) {
+        const QMImage stencil = qmTattooDithering(image);
+        benchmark::DoNotOptimize(stencil.data);
+    }
+    state.SetItemsProcessed(state.iterations() * width * height);
+}
+BENCHMARK(Stencil)->Unit(benchmark::kMillisecond);
 
 }  // namespace
