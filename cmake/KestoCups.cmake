@@ -1,16 +1,4 @@
-# libcups and libcupsimage as the targets kesto_cups and kesto_cupsimage, and the folders
-# of the CUPS installation. cups-config knows them where CUPS lives outside the usual places.
-find_program(CUPS_CONFIG cups-config REQUIRED)
-
-function(kesto_cups_config variable)
-    execute_process(COMMAND ${CUPS_CONFIG} ${ARGN}
-        OUTPUT_VARIABLE output OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-    set(${variable} "${output}" PARENT_SCOPE)
-endfunction()
-
-kesto_cups_config(KESTO_CUPS_SERVERBIN --serverbin)
-kesto_cups_config(KESTO_CUPS_DATADIR --datadir)
-
+# libcups and libcupsimage as the targets kesto_cups and kesto_cupsimage.
 find_path(CUPS_INCLUDE_DIR cups/raster.h REQUIRED)
 find_library(CUPS_LIBRARY cups REQUIRED)
 find_library(CUPSIMAGE_LIBRARY cupsimage REQUIRED)

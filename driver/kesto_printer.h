@@ -78,7 +78,7 @@ public:
     const char* getCopyRight() const;
 
     // Output (output_streams.cpp): the same bytes to every stream, in list order. Write errors
-    // show in the streams' own error state.
+    // are neither detected nor reported here.
 
     /// The streams: standard output, then what the owner appends.
     std::list<std::FILE*>* getOutputStreams() { return &outputStreams_; }
@@ -162,6 +162,7 @@ private:
     };
 
     void formatNextDumpPath(std::span<char> path) const;
+    /// False for null and for an image that a step without memory left empty.
     bool hasFinishedImage() const { return pimage_ != nullptr && pimage_->IsValid(); }
     void setDumpTemplate(const char* pathTemplate);
     BlankEdges countBlankEdges(const unsigned char* data, std::size_t bytesPerLine,

@@ -2,7 +2,8 @@
 
 #include "driver/kesto_printer.h"
 
-// The results say nothing: a failed stream is found through its error state.
+// Write errors are not looked at: the results say nothing, and one failed stream does not keep
+// the others from being served.
 
 bool KestoPrinter::printBytes(const unsigned char* buf, std::size_t size) {
     for (std::FILE* stream : outputStreams_) {
