@@ -1,5 +1,5 @@
 // Stencil pages whose finished image cannot be made.
-#include "tests/unit/driver/failing_calloc.h"
+#include "tests/support/test_memory.h"
 #include "tests/unit/driver/test_support.h"
 
 namespace {
@@ -19,7 +19,7 @@ protected:
     }
     // The first block is the grey image's, the second the stencil's.
     std::string processWithoutMemoryForTheStencil(const Bytes& page) {
-        const FailingCalloc second(2);
+        const FailingAllocation second(2);
         return process(page);
     }
 };

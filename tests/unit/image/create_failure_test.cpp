@@ -1,6 +1,6 @@
 // Images that cannot be created.
+#include "tests/support/test_memory.h"
 #include "tests/unit/image/test_images.h"
-#include "tests/unit/image/test_memory.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Creation of images: depths, strides, header fields, memory and refusals.
 #include <cstring>
 
+#include "tests/support/test_memory.h"
 #include "tests/unit/image/test_images.h"
-#include "tests/unit/image/test_memory.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Halftoning: conditions, the result image and the methods that decide each pixel on its own.
 #include <algorithm>
 
+#include "tests/support/test_memory.h"
 #include "tests/unit/image/test_images.h"
-#include "tests/unit/image/test_memory.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // Images made from rows of packed pixels.
+#include "tests/support/test_memory.h"
 #include "tests/unit/image/test_images.h"
-#include "tests/unit/image/test_memory.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // Rotation, and mirroring of 8-bit images.
+#include "tests/support/test_memory.h"
 #include "tests/unit/image/test_images.h"
-#include "tests/unit/image/test_memory.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // Widening of the bit depth, for every pair of depths.
+#include "tests/support/test_memory.h"
 #include "tests/unit/image/test_images.h"
-#include "tests/unit/image/test_memory.h"
 
 namespace {
 

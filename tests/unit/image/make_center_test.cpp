@@ -1,8 +1,8 @@
 // Centring in wider rows.
 #include <climits>
 
+#include "tests/support/test_memory.h"
 #include "tests/unit/image/test_images.h"
-#include "tests/unit/image/test_memory.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Who owns the memory of images, and what goes from one image to another.
 #include <cstring>
 
+#include "tests/support/test_memory.h"
 #include "tests/unit/image/test_images.h"
-#include "tests/unit/image/test_memory.h"
 
 namespace {
 

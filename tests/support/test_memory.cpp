@@ -1,4 +1,4 @@
-#include "tests/unit/image/test_memory.h"
+#include "tests/support/test_memory.h"
 
 #include <cstdlib>
 
@@ -6,6 +6,12 @@ namespace {
 
 std::ptrdiff_t sLiveBlocks = 0;
 bool sNoMemory = false;
+int sCallsToFailure = 0;  // 0 when no call is to fail
+
+bool isToFail() {
+    const bool reached = sCallsToFailure > 0 && --sCallsToFailure == 0;
+    return sNoMemory || reached;
+}
 
 void* counted(void* block) {
     sLiveBlocks += block != nullptr ? 1 : 0;
@@ -28,11 +34,11 @@ void* __wrap_calloc(std::size_t count, std::size_t size);
 void __wrap_free(void* block);
 
 void* __wrap_malloc(std::size_t size) {
-    return sNoMemory ? nullptr : counted(__real_malloc(size));
+    return isToFail() ? nullptr : counted(__real_malloc(size));
 }
 
 void* __wrap_calloc(std::size_t count, std::size_t size) {
-    return sNoMemory ? nullptr : counted(__real_calloc(count, size));
+    return isToFail() ? nullptr : counted(__real_calloc(count, size));
 }
 
 void __wrap_free(void* block) {
@@ -52,4 +58,12 @@ NoMemory::NoMemory() {
 
 NoMemory::~NoMemory() {
     sNoMemory = false;
+}
+
+FailingAllocation::FailingAllocation(int ordinal) {
+    sCallsToFailure = ordinal;
+}
+
+FailingAllocation::~FailingAllocation() {
+    sCallsToFailure = 0;
 }
