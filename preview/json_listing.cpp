@@ -1,0 +1,68 @@
+#include "preview/json_listing.h"
+
+#include <nlohmann/json.hpp>
+
+#include "preview/text.h"
+
+namespace preview {
+namespace {
+
+// Members stay in the order in which they are written here.
+using Json = nlohmann::ordered_json;
+
+Json jsonOf(const BitmapSummary& bitmap) {
+    return {{"width", bitmap.width},
+            {"height", bitmap.height},
+            {"expectedBytes", bitmap.expectedBytes},
+            {"receivedBytes", bitmap.receivedBytes},
+            {"burntDots", bitmap.burntDots},
+            {"burntShare", bitmap.burntShare()}};
+}
+
+Json jsonOf(const std::vector<std::string>& arguments) {
+    Json list = Json::array();
+    for (const std::string& argument : arguments) {
+        list.push_back(printable(argument));
+    }
+    return list;
+}
+
+}  // namespace
+
+void JsonListing::onEntry(const Entry& entry) {
+    Json line = {{"type", entry.name.empty() ? "other" : "command"}, {"offset", entry.offset}};
+    if (!entry.name.empty()) {
+        line["command"] = entry.name;
+        line["arguments"] = jsonOf(entry.arguments);
+    }
+    line["text"] = printable(entry.text);
+    if (entry.bitmap) {
+        line["bitmap"] = jsonOf(*entry.bitmap);
+    }
+    if (!entry.remark.empty()) {
+        line["remark"] = entry.remark;
+    }
+    out_ << line << '\n';
+}
+
+void JsonListing::onFinding(const Finding& finding) {
+    const bool complaint = finding.kind == Finding::Kind::Complaint;
+    const Json line = {{"type", complaint ? "complaint" : "remark"},
+                       {"offset", finding.offset},
+                       {"text", finding.text}};
+    out_ << line << '\n';
+}
+
+void JsonListing::onLabel(const PrintedLabel& label) {
+    const Json line = {{"type", "label"},
+                       {"number", label.number},
+                       {"width", label.picture.width()},
+                       {"height", label.picture.height()},
+                       {"dpi", label.picture.dpi()},
+                       {"sets", label.sets},
+                       {"copies", label.copies},
+                       {"burntDots", label.picture.burntDots()}};
+    out_ << line << '\n';
+}
+
+}  // namespace preview

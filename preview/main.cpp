@@ -1,0 +1,21 @@
+#include <cstdlib>
+#include <iostream>
+#include <new>
+
+#include "preview/options.h"
+#include "preview/preview_job.h"
+
+/// The previewer: `tsplpreview [options] [file]`. Status 0 when all went well, 1 for complaints
+/// or failures, 2 for a wrong command line.
+int main(int argc, char* argv[]) {
+    try {
+        const auto options = preview::parseOptions(argc, argv);
+        if (const int* status = std::get_if<int>(&options)) {
+            return *status;
+        }
+        return preview::runPreview(std::get<preview::Options>(options));
+    } catch (const std::bad_alloc&) {
+        std::cerr << "tsplpreview: not enough memory\n";
+        return EXIT_FAILURE;
+    }
+}

@@ -1,0 +1,100 @@
+#include "preview/options.h"
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+
+#include "preview/version.h"
+
+namespace preview {
+namespace {
+
+constexpr int usageError = 2;
+constexpr int lowestDpi = 50;
+constexpr int highestDpi = 2400;
+
+const std::string sDescription =
+    "Shows what a TSPL label printer would print: one PNG picture for every label of a stream.";
+
+const std::string sFooter =
+    "Without -o the pictures are named after FILE and written to the current folder.\n"
+    "Exit status: 0 when all went well, 1 when --check has something to complain of or a file\n"
+    "cannot be read or written, 2 for a wrong command line.";
+
+// The input's name without folders and ending.
+std::string prefixOf(const Options& options) {
+    const std::string stem = std::filesystem::path(options.input).stem().string();
+    return options.readsStandardInput() || stem.empty() ? "label" : stem;
+}
+
+struct RawOptions {
+    Options options;
+    std::string prefix;
+    int dpi = 0;
+    std::string burn = "zeros";
+    bool list = false;
+    bool json = false;
+    bool check = false;
+};
+
+void describe(CLI::App& app, RawOptions& raw) {
+    app.set_version_flag("--version", std::string("tsplpreview ") + version);
+    app.footer(sFooter);
+    app.add_option("FILE", raw.options.input,
+                   "The TSPL stream; standard input without it or for -");
+    app.add_option("-o,--output", raw.prefix,
+                   "Write the pictures as PREFIX-1.png, PREFIX-2.png and so on")
+        ->type_name("PREFIX");
+    app.add_option("--dpi", raw.dpi,
+                   "Resolution of the printer; else worked out from SIZE and the bitmaps")
+        ->type_name("DPI")
+        ->check(CLI::Range(lowestDpi, highestDpi));
+    app.add_option("--burn", raw.burn, "Which bits of a bitmap burn a dot: zeros (usual) or ones")
+        ->type_name("BITS")
+        ->check(CLI::IsMember({"zeros", "ones"}));
+    auto* list = app.add_flag("--list", raw.list, "List the commands, one per line");
+    auto* json = app.add_flag("--json", raw.json, "The same as JSON objects, one per line");
+    auto* check = app.add_flag("--check", raw.check, "Only complain, of all that is wrong");
+    list->excludes(json)->excludes(check);
+    json->excludes(check);
+}
+
+Listing listingOf(const RawOptions& raw) {
+    if (raw.list) {
+        return Listing::Text;
+    }
+    if (raw.json) {
+        return Listing::Json;
+    }
+    return raw.check ? Listing::Check : Listing::None;
+}
+
+Options finished(RawOptions raw, bool prefixGiven) {
+    Options options = raw.options;
+    options.listing = listingOf(raw);
+    options.printer.onesBurn = raw.burn == "ones";
+    if (raw.dpi != 0) {
+        options.printer.dpi = raw.dpi;
+    }
+    if (prefixGiven) {
+        options.pictures = raw.prefix;
+    } else if (options.listing == Listing::None) {
+        options.pictures = prefixOf(options);
+    }
+    return options;
+}
+
+}  // namespace
+
+std::variant<Options, int> parseOptions(int argc, char* argv[]) {
+    CLI::App app(sDescription, "tsplpreview");
+    RawOptions raw;
+    describe(app, raw);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& end) {
+        return app.exit(end) == 0 ? 0 : usageError;
+    }
+    return finished(raw, app.count("--output") > 0);
+}
+
+}  // namespace preview

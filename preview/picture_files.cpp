@@ -1,0 +1,40 @@
+#include "preview/picture_files.h"
+
+#include <iomanip>
+#include <sstream>
+
+#include "preview/png_file.h"
+
+namespace preview {
+namespace {
+
+std::string describe(const PrintedLabel& label) {
+    constexpr double percent = 100;
+    const LabelPicture& picture = label.picture;
+    const double dots =
+        static_cast<double>(picture.width()) * static_cast<double>(picture.height());
+    std::ostringstream text;
+    text << picture.width() << " x " << picture.height() << " dots at " << picture.dpi() << " dpi, "
+         << std::fixed << std::setprecision(1)
+         << percent * static_cast<double>(picture.burntDots()) / dots << " % burnt";
+    const std::int64_t printed = std::int64_t{label.sets} * label.copies;
+    if (printed > 1) {
+        text << ", printed " << printed << " times";
+    }
+    return text.str();
+}
+
+}  // namespace
+
+void PictureFiles::onLabel(const PrintedLabel& label) {
+    const std::string name = prefix_ + "-" + std::to_string(label.number) + ".png";
+    const std::string error = writePng(name, label.picture);
+    if (!error.empty()) {
+        err_ << "tsplpreview: " << name << ": " << error << '\n';
+        failed_ = true;
+    } else if (out_ != nullptr) {
+        *out_ << name << ": " << describe(label) << '\n';
+    }
+}
+
+}  // namespace preview

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+
+#include "preview/preview_sink.h"
+
+namespace preview {
+
+/// Writes a PNG file for every label: PREFIX-1.png, PREFIX-2.png and so on.
+class PictureFiles : public PreviewSink {
+public:
+    /// `out` gets a line about each picture unless it is null, `err` the failures.
+    PictureFiles(std::string prefix, std::ostream* out, std::ostream& err)
+        : prefix_(std::move(prefix)), out_(out), err_(err) {}
+
+    void onEntry(const Entry&) override {}
+    void onFinding(const Finding&) override {}
+    void onLabel(const PrintedLabel& label) override;
+
+    [[nodiscard]] bool hasFailed() const { return failed_; }
+
+private:
+    std::string prefix_;
+    std::ostream* out_;
+    std::ostream& err_;
+    bool failed_ = false;
+};
+
+}  // namespace preview

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "preview/options.h"
+
+namespace preview {
+
+/// Reads the stream, writes what the options ask for. Returns the exit status: 1 when a file
+/// cannot be read or written, or when complaints are asked for and there are any; else 0.
+int runPreview(const Options& options);
+
+}  // namespace preview

@@ -1,0 +1,61 @@
+#include "preview/set_command.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include "preview/text.h"
+
+namespace preview {
+namespace {
+
+// Settings that are on or off.
+constexpr std::string_view sSwitches[] = {"TEAR", "PEEL",    "STRIPER", "BACK", "RIBBON",
+                                          "HEAD", "REPRINT", "KEY1",    "KEY2", "KEY3",
+                                          "LED1", "LED2",    "LED3",    "DEBUG"};
+
+// Settings with values of their own. A cutter is ON as well as after a number of labels.
+constexpr std::string_view sSettings[] = {"CUTTER",       "PARTIAL_CUTTER", "COUNTER",   "GAP",
+                                          "BLINE",        "COM1",           "PRINTKEY",  "RESPONSE",
+                                          "PRINTQUALITY", "STANDBY",        "ENCODER",   "USBHOST",
+                                          "PRINTER",      "SENSOR_REF",     "LABELERROR"};
+
+template <std::size_t N>
+bool contains(const std::string_view (&names)[N], std::string_view name) {
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+// "TEAR OFF" as its two words; the second one is empty when there is none.
+std::pair<std::string, std::string> keyAndValue(const Command& command) {
+    const std::string all = upperCase(command.text.substr(command.text.find_first_of("tT") + 1));
+    const std::string_view words = trimmed(all);
+    const auto end = std::min(words.find_first_of(" \t="), words.size());
+    return {std::string(words.substr(0, end)), std::string(trimmed(words.substr(end)))};
+}
+
+}  // namespace
+
+std::optional<std::string> obeySet(const Command& command, AfterLabel& afterLabel) {
+    const auto [key, value] = keyAndValue(command);
+    const bool isSwitch = contains(sSwitches, key);
+    if (!isSwitch && !contains(sSettings, key)) {
+        return "SET does not take " + printable(key);
+    }
+    if (value.empty()) {
+        return "SET " + key + " without a value";
+    }
+    const bool on = value != "OFF" && value != "0";
+    if (isSwitch && on && value != "ON") {
+        return "SET " + key + " takes ON or OFF, not " + printable(value);
+    }
+    if (key == "TEAR") {
+        afterLabel.tear = on;
+    } else if (key == "PEEL" || key == "STRIPER") {
+        afterLabel.peel = on;
+    } else if (key == "CUTTER" || key == "PARTIAL_CUTTER") {
+        afterLabel.cut = on;
+    }
+    return std::nullopt;
+}
+
+}  // namespace preview

@@ -1,0 +1,38 @@
+#include "preview/text_listing.h"
+
+#include <iomanip>
+#include <sstream>
+
+#include "preview/text.h"
+
+namespace preview {
+namespace {
+
+constexpr int offsetColumns = 10;
+
+}  // namespace
+
+std::string describe(const BitmapSummary& bitmap) {
+    constexpr double percent = 100;
+    std::ostringstream text;
+    text << bitmap.width << " x " << bitmap.height << " dots, " << bitmap.receivedBytes;
+    if (bitmap.receivedBytes < bitmap.expectedBytes) {
+        text << " of " << bitmap.expectedBytes;
+    }
+    text << " bytes, " << std::fixed << std::setprecision(1) << percent * bitmap.burntShare()
+         << " % of the dots burnt";
+    return text.str();
+}
+
+void TextListing::onEntry(const Entry& entry) {
+    out_ << std::setw(offsetColumns) << entry.offset << "  " << printable(entry.text);
+    if (entry.bitmap) {
+        out_ << "  (" << describe(*entry.bitmap) << ')';
+    }
+    if (!entry.remark.empty()) {
+        out_ << "  [" << entry.remark << ']';
+    }
+    out_ << '\n';
+}
+
+}  // namespace preview
