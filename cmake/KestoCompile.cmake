@@ -27,6 +27,12 @@ if(KESTO_SANITIZE)
         $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
 
+if(KESTO_FUZZ)
+    # Everything is instrumented; what decides where inputs come from is linked to harnesses only.
+    target_compile_options(kesto_compile INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(kesto_compile INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 if(KESTO_COVERAGE)
     target_compile_options(kesto_compile INTERFACE --coverage -O0)
     target_link_options(kesto_compile INTERFACE --coverage)

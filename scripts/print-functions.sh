@@ -3,6 +3,7 @@
 # shellcheck shell=bash
 
 filter=build/filter/rastertokestotspl
+previewer=build/preview/tsplpreview
 
 # Not every user has the folder of cupsfilter in the path.
 PATH=$PATH:/usr/sbin:/sbin
@@ -52,12 +53,13 @@ to_raster() {
     [[ -s $name.raster ]] || fail_with_log "the document has no pages" "$name.cupsfilter.log"
 }
 
-# print_document PPD DOCUMENT NAME OPTION...: NAME.tspl, pictures of its pages, and a summary
+# print_document PPD DOCUMENT NAME OPTION...: NAME.tspl, pictures of its labels, and a list of what
+# is sent
 print_document() {
     local ppd=$1 document=$2 name=$3 filter_options='' option
     shift 3
     # Should this run fail, no results of an earlier one are mistaken for its own.
-    rm -f "$name.raster" "$name.tspl" "$name.picture.pdf" "$name".page*.pbm
+    rm -f "$name.raster" "$name.tspl" "$name.picture.pdf" "$name"-[0-9]*.png
 
     to_raster "$ppd" "$document" "$name" "$@"
     for option in "$@"; do
@@ -68,7 +70,9 @@ print_document() {
         fail_with_log "the filter failed" "$name.log"
 
     echo
-    echo "Printed $document"
-    echo "to      $name.tspl (its pages as pictures: $name.page1.pbm ...; log: $name.log)"
-    scripts/list-tspl --pictures "$name.page" "$name.tspl"
+    echo "Printed $document to $name.tspl (log: $name.log)"
+    "$previewer" --check "$name.tspl" || fail "no printer would take this stream"
+    "$previewer" --list "$name.tspl" 2>/dev/null
+    echo "Pictures of the labels:"
+    "$previewer" -o "$name" "$name.tspl" | sed 's/^/  /'
 }
