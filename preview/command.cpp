@@ -1,6 +1,7 @@
 #include "preview/command.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "preview/text.h"
 
@@ -23,19 +24,39 @@ std::string_view firstWord(std::string_view line) {
     return line.substr(0, static_cast<std::size_t>(end - line.begin()));
 }
 
+// Within a text, \["] stands for a quotation mark.
+constexpr std::string_view escapedQuote = "\\[\"]";
+
+// The text with every byte within quotation marks, and the marks, as NUL. The flag tells whether
+// the last mark is missing.
+std::pair<std::string, bool> withoutTexts(std::string_view text) {
+    std::string bare(text);
+    bool quoted = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool mark = text[i] == '"';
+        if (quoted && text.substr(i).starts_with(escapedQuote)) {
+            std::fill_n(bare.begin() + static_cast<std::ptrdiff_t>(i), escapedQuote.size(), '\0');
+            i += escapedQuote.size() - 1;
+            continue;
+        }
+        if (mark || quoted) {
+            bare[i] = '\0';
+        }
+        quoted ^= mark;
+    }
+    return {bare, quoted};
+}
+
 std::vector<std::string> splitArguments(std::string_view text) {
     std::vector<std::string> arguments;
     if (trimmed(text).empty()) {
         return arguments;
     }
-    bool quoted = false;
+    const std::string bare = withoutTexts(text).first;
     std::size_t start = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        quoted ^= text[i] == '"';
-        if (text[i] == ',' && !quoted) {
-            arguments.emplace_back(trimmed(text.substr(start, i - start)));
-            start = i + 1;
-        }
+    for (auto comma = bare.find(','); comma != std::string::npos; comma = bare.find(',', start)) {
+        arguments.emplace_back(trimmed(text.substr(start, comma - start)));
+        start = comma + 1;
     }
     arguments.emplace_back(trimmed(text.substr(start)));
     return arguments;
@@ -50,7 +71,7 @@ Command parseCommand(std::uint64_t offset, std::string_view line) {
 }
 
 bool hasOpenQuote(std::string_view text) {
-    return std::count(text.begin(), text.end(), '"') % 2 != 0;
+    return withoutTexts(text).second;
 }
 
 }  // namespace preview

@@ -15,7 +15,7 @@ constexpr CommandRule sRules[] = {
     {"SIZE", 2, 2, ArgumentKind::Lengths, Effect::Obeyed},
     {"GAP", 2, 2, ArgumentKind::Lengths, Effect::NoMark},
     {"BLINE", 2, 2, ArgumentKind::Lengths, Effect::NoMark},
-    {"OFFSET", 1, 1, ArgumentKind::Lengths, Effect::NoMark},
+    {"OFFSET", 1, 1, ArgumentKind::SignedLengths, Effect::NoMark},
     {"REFERENCE", 2, 2, ArgumentKind::Integers, Effect::Obeyed},
     {"SHIFT", 1, 2, ArgumentKind::Integers, Effect::Obeyed},
     {"DIRECTION", 1, 2, ArgumentKind::Integers, Effect::Obeyed},
@@ -72,6 +72,7 @@ constexpr CommandRule sRules[] = {
     {"KILL", 1, 2, ArgumentKind::Any, Effect::NoMark},
     {"MOVE", 0, 0, ArgumentKind::Any, Effect::NoMark},
     {"RUN", 1, 1, ArgumentKind::Any, Effect::NoMark},
+    {"REM", 0, anyNumber, ArgumentKind::Any, Effect::NoMark},
     {"OUT", 1, anyNumber, ArgumentKind::Any, Effect::NoMark},
 };
 
@@ -83,6 +84,8 @@ bool isOfKind(const std::string& argument, ArgumentKind kind) {
             const auto length = parseLength(argument);
             return length && length->value >= 0;
         }
+        case ArgumentKind::SignedLengths:
+            return parseLength(argument).has_value();
         case ArgumentKind::Any:
             break;
     }
@@ -110,7 +113,8 @@ const CommandRule* findRule(std::string_view name) {
 
 std::optional<std::string> findFault(const CommandRule& rule, const Command& command) {
     const std::string name(rule.name);
-    if (hasOpenQuote(command.text)) {
+    const bool isComment = name == "REM";
+    if (!isComment && hasOpenQuote(command.text)) {
         return name + " has a quotation mark that is never closed";
     }
     const std::size_t count = command.arguments.size();

@@ -12,6 +12,7 @@ namespace preview {
 enum class ArgumentKind {
     Integers,
     Lengths,
+    SignedLengths,  ///< may be negative
     Any,
 };
 

@@ -116,9 +116,20 @@ Area DotCanvas::burntArea() const {
 }
 
 std::uint64_t DotCanvas::burntDots() const {
+    return burntDots({0, 0, width_, height_});
+}
+
+std::uint64_t DotCanvas::burntDots(const Area& area) const {
+    const Area inside = clipped(area);
+    const std::int64_t end = inside.x + inside.width;
     std::uint64_t dots = 0;
-    for (const std::uint8_t byte : bytes_) {
-        dots += static_cast<unsigned>(std::popcount(byte));
+    for (std::int64_t y = inside.y; y < std::min(inside.y + inside.height, rows()); ++y) {
+        const std::uint8_t* bytes = bytes_.data() + static_cast<std::size_t>(y) * stride_;
+        for (std::int64_t byte = inside.x / dotsPerByte; byte * dotsPerByte < end; ++byte) {
+            const auto counted =
+                static_cast<std::uint8_t>(bytes[byte] & maskInByte(byte, inside.x, end));
+            dots += static_cast<unsigned>(std::popcount(counted));
+        }
     }
     return dots;
 }
@@ -150,8 +161,20 @@ Area DotCanvas::clipped(const Area& area) const {
 
 template <class Change>
 void DotCanvas::changeRow(std::int64_t x, std::int64_t end, std::uint8_t* row, Change change) {
-    for (std::int64_t byte = x / dotsPerByte; byte * dotsPerByte < end; ++byte) {
-        row[byte] = static_cast<std::uint8_t>(change(row[byte], maskInByte(byte, x, end)));
+    if (x >= end) {
+        return;
+    }
+    const auto changeByte = [&](std::int64_t byte, std::uint8_t mask) {
+        row[byte] = static_cast<std::uint8_t>(change(row[byte], mask));
+    };
+    const std::int64_t first = x / dotsPerByte;
+    const std::int64_t last = (end - 1) / dotsPerByte;
+    changeByte(first, maskInByte(first, x, end));
+    for (std::int64_t byte = first + 1; byte < last; ++byte) {
+        changeByte(byte, 0xFF);
+    }
+    if (last > first) {
+        changeByte(last, maskInByte(last, x, end));
     }
 }
 
@@ -164,8 +187,8 @@ void DotCanvas::drawByte(std::int64_t x, std::uint8_t* row, std::uint8_t bits, D
         const std::uint8_t mask = maskInByte(byte, left, right);
         // Where the eight dots lie in this byte of the row: the one or the other half of 16 bits.
         const std::int64_t shift = x - byte * dotsPerByte;
-        const auto moved = static_cast<std::uint8_t>(
-            shift >= 0 ? bits >> shift : static_cast<unsigned>(bits) << -shift);
+        const auto moved = static_cast<std::uint8_t>(shift >= 0 ? std::uint32_t{bits} >> shift
+                                                                : std::uint32_t{bits} << -shift);
         inside += static_cast<unsigned>(std::popcount(static_cast<std::uint8_t>(moved & mask)));
         row[byte] = combined(row[byte], moved, mask, mode);
     }

@@ -50,8 +50,9 @@ public:
     /// The smallest area from the upper left corner that holds every dot that burns.
     [[nodiscard]] Area burntArea() const;
 
-    /// Number of dots that burn.
+    /// Number of dots that burn, on the whole canvas or in an area.
     [[nodiscard]] std::uint64_t burntDots() const;
+    [[nodiscard]] std::uint64_t burntDots(const Area& area) const;
 
     /// Number of dots that were to burn outside the canvas since it was last cleared.
     [[nodiscard]] std::uint64_t dotsOutside() const { return dotsOutside_; }

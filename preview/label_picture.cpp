@@ -1,5 +1,8 @@
 #include "preview/label_picture.h"
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace preview {
 
 bool LabelPicture::burns(std::int64_t x, std::int64_t y) const {
@@ -15,13 +18,20 @@ bool LabelPicture::burns(std::int64_t x, std::int64_t y) const {
 }
 
 std::uint64_t LabelPicture::burntDots() const {
-    std::uint64_t dots = 0;
-    for (std::int64_t y = 0; y < height_; ++y) {
-        for (std::int64_t x = 0; x < width_; ++x) {
-            dots += std::uint64_t{burns(x, y)};
-        }
+    // What is left of the label when it is shifted over its edges, on the canvas.
+    Area area = {std::max<std::int64_t>(0, -placement_.shiftX),
+                 std::max<std::int64_t>(0, -placement_.shiftY),
+                 width_ - std::abs(placement_.shiftX), height_ - std::abs(placement_.shiftY)};
+    if (area.width <= 0 || area.height <= 0) {
+        return 0;
     }
-    return dots;
+    if (placement_.turned != placement_.mirrored) {
+        area.x = width_ - area.x - area.width;
+    }
+    if (placement_.turned) {
+        area.y = height_ - area.y - area.height;
+    }
+    return canvas_.burntDots(area);
 }
 
 }  // namespace preview

@@ -19,7 +19,8 @@ struct LabelSize {
 std::optional<int> nearestDpi(const Length& width, std::int64_t widthInDots);
 
 /// The length in whole dots. A picture that ends (at `end` dots) as near to the edge of the
-/// label as the decimals of the length can tell ends at the edge.
+/// label as the decimals of the length can tell ends at the edge, and so does one that has 8 dots
+/// to each of a whole number of millimetres at 203 dpi.
 std::int64_t wholeDots(const Length& length, int dpi, std::int64_t end);
 
 }  // namespace preview

@@ -54,6 +54,9 @@ void describe(CLI::App& app, RawOptions& raw) {
     auto* list = app.add_flag("--list", raw.list, "List the commands, one per line");
     auto* json = app.add_flag("--json", raw.json, "The same as JSON objects, one per line");
     auto* check = app.add_flag("--check", raw.check, "Only complain, of all that is wrong");
+    for (auto* flag : {list, json, check}) {
+        flag->disable_flag_override();
+    }
     list->excludes(json)->excludes(check);
     json->excludes(check);
 }
@@ -76,7 +79,8 @@ Options finished(RawOptions raw, bool prefixGiven) {
         options.printer.dpi = raw.dpi;
     }
     if (prefixGiven) {
-        options.pictures = raw.prefix;
+        const bool isFolder = raw.prefix.ends_with('/');
+        options.pictures = isFolder ? raw.prefix + prefixOf(options) : raw.prefix;
     } else if (options.listing == Listing::None) {
         options.pictures = prefixOf(options);
     }

@@ -18,14 +18,14 @@ enum class Listing {
 
 /// The command line.
 struct Options {
-    /// Name of the stream's file; empty or "-" for standard input.
-    std::string input;
+    /// Name of the stream's file; "-" for standard input.
+    std::string input = "-";
     /// Start of the pictures' names; none when no pictures are wanted.
     std::optional<std::string> pictures;
     Listing listing = Listing::None;
     PrinterOptions printer;
 
-    [[nodiscard]] bool readsStandardInput() const { return input.empty() || input == "-"; }
+    [[nodiscard]] bool readsStandardInput() const { return input == "-"; }
 };
 
 /// Reads the command line. Help and version go to standard output, errors to standard error; the

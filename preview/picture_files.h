@@ -17,6 +17,7 @@ public:
     void onEntry(const Entry&) override {}
     void onFinding(const Finding&) override {}
     void onLabel(const PrintedLabel& label) override;
+    void onLostLabel() override { failed_ = true; }
 
     [[nodiscard]] bool hasFailed() const { return failed_; }
 

@@ -54,12 +54,12 @@ void PngWriter::onWarning(png_structp, png_const_charp) {}
 void PngWriter::writeHeader(const LabelPicture& picture) {
     constexpr double metresPerInch = 0.0254;
     const auto dotsPerMetre = static_cast<png_uint_32>(std::lround(picture.dpi() / metresPerInch));
+    // Labels are longer than the million rows that libpng takes for a sane picture.
+    png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
     png_set_IHDR(png_, info_, static_cast<png_uint_32>(picture.width()),
                  static_cast<png_uint_32>(picture.height()), 1, PNG_COLOR_TYPE_GRAY,
                  PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
     png_set_pHYs(png_, info_, dotsPerMetre, dotsPerMetre, PNG_RESOLUTION_METER);
-    // Labels are longer than the million rows that libpng takes for a sane picture.
-    png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
     png_write_info(png_, info_);
 }
 
@@ -95,22 +95,38 @@ std::string writeTo(std::FILE* file, const LabelPicture& picture) {
     if (!writer.isReady()) {
         return "not enough memory";
     }
-    return writer.write(file, picture, row) ? "" : writer.error();
+    if (writer.write(file, picture, row)) {
+        return "";
+    }
+    // libpng says no more than that it could not write.
+    return std::ferror(file) != 0 && errno != 0 ? std::strerror(errno) : writer.error();
+}
+
+std::string writeAndClose(File file, const LabelPicture& picture) {
+    errno = 0;
+    std::string error = writeTo(file.get(), picture);
+    if (std::fclose(file.release()) != 0 && error.empty()) {
+        error = std::strerror(errno);
+    }
+    return error;
 }
 
 }  // namespace
 
 std::string writePng(const std::string& name, const LabelPicture& picture) {
-    File file(std::fopen(name.c_str(), "wb"));
+    // Under another name first: a write that fails or is interrupted leaves a picture of that name
+    // as it was.
+    const std::string unfinished = name + ".part";
+    File file(std::fopen(unfinished.c_str(), "wb"));
     if (!file) {
         return std::strerror(errno);
     }
-    std::string error = writeTo(file.get(), picture);
-    if (std::fclose(file.release()) != 0 && error.empty()) {
+    std::string error = writeAndClose(std::move(file), picture);
+    if (error.empty() && std::rename(unfinished.c_str(), name.c_str()) != 0) {
         error = std::strerror(errno);
     }
     if (!error.empty()) {
-        std::remove(name.c_str());
+        std::remove(unfinished.c_str());
     }
     return error;
 }

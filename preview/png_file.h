@@ -7,8 +7,8 @@
 namespace preview {
 
 /// Writes a label as a PNG file of 1 bit per dot, paper white and burnt dots black, with its
-/// resolution. Replaces a file of that name. Returns why it could not; empty when it could. No
-/// unfinished file is left behind.
+/// resolution. Returns why it could not; empty when it could. A file of that name is replaced when
+/// the new one is complete; until then it is called name.part.
 std::string writePng(const std::string& name, const LabelPicture& picture);
 
 }  // namespace preview

@@ -2,7 +2,9 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -94,8 +96,9 @@ int runPreview(const Options& options) {
     if (!error.empty()) {
         return failure(sourceName(options), error);
     }
+    errno = 0;
     if (!isWritten()) {
-        return failure("standard output", "cannot be written");
+        return failure("standard output", errno != 0 ? std::strerror(errno) : "cannot be written");
     }
     const bool complained = options.listing == Listing::Check && findings.hasComplaints();
     return pictures.hasFailed() || complained ? EXIT_FAILURE : EXIT_SUCCESS;

@@ -62,6 +62,8 @@ public:
     virtual void onFinding(const Finding& finding) = 0;
     /// The picture is valid during the call only.
     virtual void onLabel(const PrintedLabel& label) = 0;
+    /// A label that is printed but cannot be drawn; a complaint says why.
+    virtual void onLostLabel() {}
 };
 
 }  // namespace preview

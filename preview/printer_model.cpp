@@ -163,6 +163,10 @@ void PrinterModel::set(const Command& command) {
 
 void PrinterModel::drawArea(const Command& command) {
     const Area area = placed(areaOf(command));
+    if (area.width <= 0 || area.height <= 0) {
+        complain(command.offset, command.name + " without an extent: " + quoted(command));
+        return;
+    }
     if (command.name == "BAR") {
         label_.canvas().fill(area);
     } else if (command.name == "ERASE") {
@@ -210,8 +214,10 @@ void PrinterModel::print(const Command& command) {
 
 void PrinterModel::printLabel(const Command& command, std::int32_t sets, std::int32_t copies) {
     const LabelDots dots = label_.dots();
+    ++labels_;
     if (dots.width <= 0 || dots.height <= 0) {
         complain(command.offset, "the label has no size that can be drawn");
+        sink_.onLostLabel();
         return;
     }
     reportOverhang(dots);
@@ -222,7 +228,6 @@ void PrinterModel::printLabel(const Command& command, std::int32_t sets, std::in
         complain(command.offset,
                  std::to_string(drawn - printed) + " dots lie outside the label and are cut off");
     }
-    ++labels_;
     sink_.onLabel({labels_, sets, copies, picture});
 }
 

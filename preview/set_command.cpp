@@ -14,11 +14,10 @@ constexpr std::string_view sSwitches[] = {"TEAR", "PEEL",    "STRIPER", "BACK", 
                                           "HEAD", "REPRINT", "KEY1",    "KEY2", "KEY3",
                                           "LED1", "LED2",    "LED3",    "DEBUG"};
 
-// Settings with values of their own. A cutter is ON as well as after a number of labels.
-constexpr std::string_view sSettings[] = {"CUTTER",       "PARTIAL_CUTTER", "COUNTER",   "GAP",
-                                          "BLINE",        "COM1",           "PRINTKEY",  "RESPONSE",
-                                          "PRINTQUALITY", "STANDBY",        "ENCODER",   "USBHOST",
-                                          "PRINTER",      "SENSOR_REF",     "LABELERROR"};
+// Settings with values of their own.
+constexpr std::string_view sSettings[] = {
+    "COUNTER", "GAP",     "BLINE",   "COM1",    "PRINTKEY",   "RESPONSE",  "PRINTQUALITY",
+    "STANDBY", "ENCODER", "USBHOST", "PRINTER", "SENSOR_REF", "LABELERROR"};
 
 template <std::size_t N>
 bool contains(const std::string_view (&names)[N], std::string_view name) {
@@ -38,7 +37,8 @@ std::pair<std::string, std::string> keyAndValue(const Command& command) {
 std::optional<std::string> obeySet(const Command& command, AfterLabel& afterLabel) {
     const auto [key, value] = keyAndValue(command);
     const bool isSwitch = contains(sSwitches, key);
-    if (!isSwitch && !contains(sSettings, key)) {
+    const bool isCutter = key == "CUTTER" || key == "PARTIAL_CUTTER";
+    if (!isSwitch && !isCutter && !contains(sSettings, key)) {
         return "SET does not take " + printable(key);
     }
     if (value.empty()) {
@@ -48,11 +48,15 @@ std::optional<std::string> obeySet(const Command& command, AfterLabel& afterLabe
     if (isSwitch && on && value != "ON") {
         return "SET " + key + " takes ON or OFF, not " + printable(value);
     }
+    // It cuts after each label, after a job, or after a number of labels.
+    if (isCutter && on && value != "ON" && value != "BATCH" && !parseInteger(value)) {
+        return "SET " + key + " takes ON, OFF, BATCH or a number, not " + printable(value);
+    }
     if (key == "TEAR") {
         afterLabel.tear = on;
     } else if (key == "PEEL" || key == "STRIPER") {
         afterLabel.peel = on;
-    } else if (key == "CUTTER" || key == "PARTIAL_CUTTER") {
+    } else if (isCutter) {
         afterLabel.cut = on;
     }
     return std::nullopt;

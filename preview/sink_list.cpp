@@ -20,4 +20,10 @@ void SinkList::onLabel(const PrintedLabel& label) {
     }
 }
 
+void SinkList::onLostLabel() {
+    for (PreviewSink* sink : sinks_) {
+        sink->onLostLabel();
+    }
+}
+
 }  // namespace preview

@@ -15,6 +15,7 @@ public:
     void onEntry(const Entry& entry) override;
     void onFinding(const Finding& finding) override;
     void onLabel(const PrintedLabel& label) override;
+    void onLostLabel() override;
 
 private:
     std::vector<PreviewSink*> sinks_;

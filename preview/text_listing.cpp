@@ -19,8 +19,8 @@ std::string describe(const BitmapSummary& bitmap) {
     if (bitmap.receivedBytes < bitmap.expectedBytes) {
         text << " of " << bitmap.expectedBytes;
     }
-    text << " bytes, " << std::fixed << std::setprecision(1) << percent * bitmap.burntShare()
-         << " % of the dots burnt";
+    text << (bitmap.expectedBytes == 1 ? " byte, " : " bytes, ") << std::fixed
+         << std::setprecision(1) << percent * bitmap.burntShare() << " % of the dots burnt";
     return text.str();
 }
 

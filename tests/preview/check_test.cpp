@@ -1,0 +1,119 @@
+#include <gtest/gtest.h>
+
+#include "tests/preview/preview_run.h"
+
+namespace {
+
+struct Fault {
+    std::string name;
+    std::string stream;
+    std::string complaint;  // behind the offset
+    std::size_t offset;
+};
+
+// A label of 16 × 8 dots on which the commands draw; they begin at byte 21.
+std::string label(const std::string& commands) {
+    return "SIZE 2 mm,1 mm\r\nCLS\r\n" + commands + "\r\nPRINT 1,1\r\n";
+}
+
+std::string zeros(std::size_t count) {
+    return std::string(count, '\0');
+}
+
+const Fault sFaults[] = {
+    {"ABitmapThatTheStreamCutsOff", "BITMAP 0,0,4,100,0," + zeros(17),
+     "BITMAP is cut short: 17 of 400 bytes are there", 0},
+    {"ABitmapWiderThanTheLabel", label("BITMAP 0,0,3,1,0,\xff\xff\xff"),
+     "BITMAP reaches to dot 24, the label is 16 dots wide", 21},
+    {"ABitmapThatStandsTooFarRight", label("BITMAP 8,0,2,1,0,\xff\xff"),
+     "BITMAP reaches to dot 24, the label is 16 dots wide", 21},
+    {"ABitmapHigherThanTheLabel", label("BITMAP 0,0,1,10,0," + std::string(10, '\xff')),
+     "BITMAP reaches to row 10, the label is 8 rows high", 21},
+    {"ABitmapOfAModeThatIsNone", label("BITMAP 0,0,1,1,3,\xff"), "BITMAP does not take mode 3", 21},
+    {"ABitmapHeadThatIsNone", label("BITMAP 0,0,x,1,0,\xff"),
+     "BITMAP needs two positions, a width, a height, a mode and data: BITMAP 0,0,x,1,0,\\xff", 21},
+    {"DotsBesideTheLabel", label("BAR 14,6,4,3"), "8 dots lie outside the label and are cut off",
+     35},
+    {"APrintOfNoCopies", label("PRINT 1,0"), "PRINT 1,0 prints nothing", 21},
+    {"APrintOfNoSets", label("PRINT 0"), "PRINT 0 prints nothing", 21},
+    {"APrintWithoutALabel", "PRINT 1\r\n", "the label has no size that can be drawn", 0},
+    {"TwoActionsAfterEachLabel", label("SET TEAR ON\r\nSET CUTTER ON"),
+     "more than one of SET TEAR, SET PEEL and SET CUTTER is on", 49},
+    {"ASettingThatIsNone", label("SET WRONG ON"), "SET does not take WRONG", 21},
+    {"ASettingThatIsNeitherOnNorOff", label("SET PEEL 7"), "SET PEEL takes ON or OFF, not 7", 21},
+    {"ASettingWithoutAValue", label("SET RIBBON"), "SET RIBBON without a value", 21},
+    {"AnUnknownCommand", label("SPIN 3"), "unknown command: SPIN 3", 21},
+    {"TooFewArguments", label("BAR 1,2,3"), "BAR takes 4 arguments, not 3", 21},
+    {"TooManyArguments", label("DENSITY 8,8"), "DENSITY takes 1 argument, not 2", 21},
+    {"AnArgumentThatIsNoNumber", label("BAR 1,2,3,x"), "BAR does not take \"x\"", 21},
+    {"ALengthWithoutAUnitOfLengths", label("GAP 2 km,0"), "GAP does not take \"2 km\"", 21},
+    {"ADirectionThatIsNone", label("DIRECTION 2"), "DIRECTION takes 0 and 1", 21},
+    {"ASpeedThatIsNone", label("SPEED 0"), "SPEED does not take \"0\"", 21},
+    {"ADensityThatIsNone", label("DENSITY 31"), "DENSITY does not take 31", 21},
+    {"ATextThatNeverEnds", label("TEXT 1,1,\"3\",0,1,1,\"open"),
+     "TEXT has a quotation mark that is never closed", 21},
+    {"AStoredFileThatTheStreamCutsOff", "DOWNLOAD \"LOGO.BMP\",10,abc",
+     "DOWNLOAD is cut short: 3 of 10 bytes are there", 0},
+    {"ALineLongerThanAnyCommand", "TEXT " + std::string(70000, '1') + "\r\n",
+     "a line that is longer than any command is skipped", 0},
+    {"ALabelOfAbsurdSize", "SIZE 5000 mm,5000 mm\r\n",
+     "a label of this size is too large to draw: SIZE 5000 mm,5000 mm", 0},
+};
+
+class Check : public testing::TestWithParam<Fault> {};
+
+TEST_P(Check, IsComplainedOfWithItsOffsetAndStatusOne) {
+    const Fault& fault = GetParam();
+    const FilterResult result = runCheck(fault.stream);
+    EXPECT_EQ(result.standardOutput, "standard input: byte " + std::to_string(fault.offset) + ": " +
+                                         fault.complaint + "\n");
+    EXPECT_EQ(result.standardError, "");
+    EXPECT_EQ(result.status, 1);
+}
+
+std::string nameOf(const testing::TestParamInfo<Fault>& fault) {
+    return fault.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Faults, Check, testing::ValuesIn(sFaults), nameOf);
+
+TEST(CheckOfSeveralFaults, ComplainsOfEachInTheOrderOfTheStream) {
+    const TemporaryFolder folder;
+    folder.write("bad.tspl", label("SPIN\r\nBAR 1\r\nPRINT 0"));
+    const FilterResult result = runPreview(folder, {"--check", "bad.tspl"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.standardOutput,
+              "bad.tspl: byte 21: unknown command: SPIN\n"
+              "bad.tspl: byte 27: BAR takes 4 arguments, not 1\n"
+              "bad.tspl: byte 34: PRINT 0 prints nothing\n");
+}
+
+TEST(CheckOfACleanStream, SaysNothingAndGivesStatusZero) {
+    const std::string streams[] = {
+        "",
+        "\n\n\n",
+        smallLabel(letterBitmap),
+        // What is not drawn is nothing to complain of.
+        label("TEXT 1,1,\"3\",0,1,1,\"a, b\"\r\nBARCODE 1,1,\"128\",5,1,0,1,1,\"A\"\r\n"
+              "QRCODE 1,1,L,1,A,0,\"x\""),
+        label("GAP 2 mm,0 mm\r\nGAP 0,0\r\nBLINE 2 mm,0 mm\r\nOFFSET 0.0 mm\r\nREFERENCE 0,0\r\n"
+              "SHIFT 1\r\nDIRECTION 1\r\nDIRECTION 0,1\r\nSPEED 4\r\nSPEED 1.5\r\nDENSITY 0\r\n"
+              "DENSITY 15\r\nSET RIBBON OFF\r\nSET TEAR ON\r\nSET PEEL OFF\r\nSET CUTTER OFF\r\n"
+              "BAR 1,1,2,2\r\nBOX 1,1,6,6,1\r\nERASE 1,1,2,2\r\nREVERSE 1,1,2,2\r\n"
+              "BITMAP 0,0,1,1,1,\xff\r\nBITMAP 0,0,1,1,2,\xff\r\nFEED 80\r\nFORMFEED\r\nHOME\r\n"
+              "EOP\r\nCODEPAGE 850\r\nCOUNTRY 001\r\nSOUND 1,100\r\nSELFTEST"),
+        "SIZE 16 dot,8 dot\nCLS\nPRINT 1\n",
+        "SIZE 4,6\nCLS\nPRINT 1\n",
+        "SIZE 4 inch,6 inch\rCLS\rPRINT 1\r",
+        "size 2 mm,1 mm\ncls\nprint 1,1",
+        "\x1b!S\x1b!?~!T\r\n",
+    };
+    for (const std::string& stream : streams) {
+        const FilterResult result = runCheck(stream);
+        EXPECT_EQ(result.standardOutput, "") << stream;
+        EXPECT_EQ(result.standardError, "") << stream;
+        EXPECT_EQ(result.status, 0) << stream;
+    }
+}
+
+}  // namespace

@@ -1,0 +1,68 @@
+#include <gtest/gtest.h>
+
+#include "tests/preview/dot_picture.h"
+#include "tests/preview/preview_run.h"
+
+namespace {
+
+struct Drawing {
+    std::string name;
+    std::string commands;
+    std::vector<std::string> rows;
+};
+
+// Drawn by hand on a label of 8 × 6 dots, on which a bitmap burns the upper left corner.
+const std::string corner = "BITMAP 0,0,1,2,0,\x1f\x7f\r\n";
+
+const Drawing sDrawings[] = {
+    {"ABitmapOverwrites",
+     "BAR 0,0,8,6\r\nBITMAP 0,1,1,2,0,\xf0\x0f\r\n",
+     {"########", "....####", "####....", "########", "########", "########"}},
+    {"ABitmapOfModeOneIsAdded",
+     "BAR 0,0,2,3\r\nBITMAP 0,1,1,1,1,\xf1\r\n",
+     {"##......", "##..###.", "##......", "........", "........", "........"}},
+    {"ABitmapOfModeTwoSwaps",
+     "BAR 0,0,2,3\r\nBITMAP 0,1,1,1,2,\x8f\r\n",
+     {"##......", "#.##....", "##......", "........", "........", "........"}},
+    {"ABitmapStandsAnywhere",
+     "BITMAP 3,2,1,2,0,\x0f\xf0\r\n",
+     {"........", "........", "...####.", ".......#", "........", "........"}},
+    {"AFrameLiesWithinItsCorners",
+     "BOX 1,1,7,5,1\r\n",
+     {"........", ".######.", ".#....#.", ".#....#.", ".######.", "........"}},
+    {"EraseAndReverse",
+     "BAR 0,0,8,6\r\nERASE 1,1,6,4\r\nREVERSE 4,0,4,3\r\n",
+     {"####....", "#...###.", "#...###.", "#......#", "#......#", "########"}},
+    {"AReferenceMovesWhatIsDrawn",
+     "REFERENCE 2,3\r\n" + corner,
+     {"........", "........", "........", "..###...", "..#.....", "........"}},
+    {"DirectionOneTurnsTheLabel",
+     corner + "DIRECTION 1\r\n",
+     {"........", "........", "........", "........", ".......#", ".....###"}},
+    {"ASecondNumberMirrorsTheLabel",
+     corner + "DIRECTION 0,1\r\n",
+     {".....###", ".......#", "........", "........", "........", "........"}},
+    {"TheLabelIsClearedByCls",
+     corner + "CLS\r\n",
+     {"........", "........", "........", "........", "........", "........"}},
+};
+
+class Picture : public testing::TestWithParam<Drawing> {};
+
+TEST_P(Picture, IsDrawnAsByHand) {
+    const TemporaryFolder folder;
+    const FilterResult result =
+        runPreview(folder, {}, "SIZE 8 dot,6 dot\r\nCLS\r\n" + GetParam().commands + "PRINT 1\r\n");
+    ASSERT_EQ(result.status, 0) << result.standardError;
+    EXPECT_EQ(
+        differenceOf(drawnPicture(GetParam().rows), readPng(folder.path("label-1.png")).picture),
+        "");
+}
+
+std::string nameOf(const testing::TestParamInfo<Drawing>& drawing) {
+    return drawing.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Drawings, Picture, testing::ValuesIn(sDrawings), nameOf);
+
+}  // namespace
