@@ -1,6 +1,7 @@
 #include "preview/command_rules.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "preview/length.h"
 #include "preview/text.h"
@@ -8,7 +9,7 @@
 namespace preview {
 namespace {
 
-constexpr std::size_t anyNumber = 99;
+constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
 
 constexpr CommandRule sRules[] = {
     // The label and how it is printed.

@@ -16,9 +16,21 @@ bool isSame(const Length& a, const Length& b) {
     return a.value == b.value && a.unit == b.unit && a.precision == b.precision;
 }
 
-// The most dots that the length can be meant to have, and one for the edge.
+// The most dots that the length can be meant to have, and one for the edge. What is called 203 dpi
+// is 8 dots to the millimetre, a thousandth more.
 double mostDotsOf(const Length& length, int dpi) {
-    return std::ceil(lengthInDots(length, dpi) + precisionInDots(length, dpi)) + 1;
+    const double metric = length.unit == Unit::Millimetre ? 1.001 : 1;
+    return std::ceil(metric * lengthInDots(length, dpi) + precisionInDots(length, dpi)) + 1;
+}
+
+// A page that is no whole number of bytes wide has a bitmap that ends some dots past the edge.
+// Where the decimals of the width are coarser than a dot, no column of the page is cut off.
+std::int64_t wholeColumns(const Length& length, int dpi, std::int64_t end) {
+    const std::int64_t columns = wholeDots(length, dpi, end);
+    const auto most = static_cast<std::int64_t>(
+        std::floor(lengthInDots(length, dpi) + precisionInDots(length, dpi)));
+    const bool endsInItsLastByte = end > columns && end < most + dotsPerByte;
+    return endsInItsLastByte ? std::clamp(most, columns, end) : columns;
 }
 
 DotCanvas canvasOfUnknownSize(std::uint64_t mostDots) {
@@ -59,6 +71,9 @@ void Label::clear() {
 }
 
 void Label::noteBitmap(const BitmapHead& head, std::int64_t x, std::int64_t y) {
+    if (head.dataBytes() == 0) {
+        return;
+    }
     const std::int64_t right = x + head.rowBytes * dotsPerByte;
     const std::int64_t bottom = y + head.rows;
     if (right > widest_.end) {
@@ -75,7 +90,7 @@ LabelDots Label::dots() {
     }
     const int dpi = resolution();
     if (size_) {
-        return {wholeDots(size_->width, dpi, widest_.end),
+        return {wholeColumns(size_->width, dpi, widest_.end),
                 wholeDots(size_->height, dpi, highest_.end), dpi};
     }
     const Area burnt = canvas_.burntArea();

@@ -37,7 +37,8 @@ public:
     [[nodiscard]] DotCanvas& canvas() { return canvas_; }
     [[nodiscard]] const DotCanvas& canvas() const { return canvas_; }
 
-    /// Takes notice of a bitmap with its upper left corner at (x, y).
+    /// Takes notice of a bitmap with its upper left corner at (x, y); of one without dots it takes
+    /// none.
     void noteBitmap(const BitmapHead& head, std::int64_t x, std::int64_t y);
 
     /// The size of the label as it is printed now. Without a SIZE it ends where the last dot

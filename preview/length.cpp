@@ -56,10 +56,10 @@ std::optional<Length> parseLength(std::string_view text) {
         return std::nullopt;
     }
     length.unit = *unit;
-    // A whole number of inches is an exact size; only decimals are rounded ones.
-    const bool rounded =
-        *unit != Unit::Dot && text.substr(0, written).find('.') != std::string_view::npos;
-    length.precision = rounded ? halfOfLastDecimal(text.substr(0, written)) : 0;
+    // A whole number is an exact size; only decimals are rounded ones.
+    const std::string_view digits = text.substr(0, written);
+    const bool whole = digits.find('.') == std::string_view::npos || digits.ends_with('.');
+    length.precision = whole || *unit == Unit::Dot ? 0 : halfOfLastDecimal(digits);
     return length;
 }
 

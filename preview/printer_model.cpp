@@ -4,9 +4,11 @@
 #include <bit>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "preview/command_rules.h"
+#include "preview/data_heads.h"
 #include "preview/length.h"
 #include "preview/text.h"
 
@@ -28,6 +30,11 @@ Area areaOf(const Command& command) {
 bool isOtherLine(const Command& command) {
     const char first = command.text.front();
     return first == escape || first == '~' || first == '@';
+}
+
+// The largest number where the sum is larger.
+std::uint64_t sum(std::uint64_t a, std::uint64_t b) {
+    return a + std::min(b, std::numeric_limits<std::uint64_t>::max() - a);
 }
 
 std::string quoted(const Command& command) {
@@ -222,11 +229,12 @@ void PrinterModel::printLabel(const Command& command, std::int32_t sets, std::in
     }
     reportOverhang(dots);
     const LabelPicture picture(label_.canvas(), dots.width, dots.height, dots.dpi, placement_);
-    const std::uint64_t drawn = label_.canvas().burntDots() + label_.canvas().dotsOutside();
+    const std::uint64_t onCanvas = label_.canvas().burntDots();
     const std::uint64_t printed = picture.burntDots();
-    if (printed < drawn) {
+    const std::uint64_t outside = sum(onCanvas - printed, label_.canvas().dotsOutside());
+    if (outside > 0) {
         complain(command.offset,
-                 std::to_string(drawn - printed) + " dots lie outside the label and are cut off");
+                 std::to_string(outside) + " dots lie outside the label and are cut off");
     }
     sink_.onLabel({labels_, sets, copies, picture});
 }
@@ -245,7 +253,15 @@ void PrinterModel::reportOverhang(const LabelDots& dots) {
 
 // DOWNLOAD "NAME" without a size: a program follows, up to EOP.
 void PrinterModel::startStoring(const Command& command) {
-    storing_ = !command.text.ends_with(',');
+    const std::string& last = command.arguments.back();
+    const bool isProgram = last.size() > 1 && last.starts_with('"') && last.ends_with('"');
+    if (isProgram) {
+        storing_ = true;
+        storingSince_ = command.offset;
+    } else if (!parseDownloadHead(command)) {
+        complain(command.offset,
+                 "DOWNLOAD needs a name, and for a file its size: " + quoted(command));
+    }
 }
 
 void PrinterModel::onBitmap(const BitmapHead& head) {
@@ -311,6 +327,12 @@ void PrinterModel::onDownloadCutShort(std::uint64_t offset, std::uint64_t expect
                                       std::uint64_t received) {
     complain(offset, "DOWNLOAD is cut short: " + std::to_string(received) + " of " +
                          std::to_string(expected) + " bytes are there");
+}
+
+void PrinterModel::onEnd() {
+    if (storing_) {
+        complain(storingSince_, "DOWNLOAD stores a program that does not end with EOP");
+    }
 }
 
 void PrinterModel::onLongLine(std::uint64_t offset) {

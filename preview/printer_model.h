@@ -42,6 +42,7 @@ public:
     void onDownloadCutShort(std::uint64_t offset, std::uint64_t expected,
                             std::uint64_t received) override;
     void onLongLine(std::uint64_t offset) override;
+    void onEnd() override;
 
 private:
     struct Point {
@@ -83,6 +84,7 @@ private:
     std::uint64_t labels_ = 0;
     /// Between DOWNLOAD of a program and EOP: the lines are stored, not obeyed.
     bool storing_ = false;
+    std::uint64_t storingSince_ = 0;
 };
 
 }  // namespace preview

@@ -29,7 +29,28 @@ std::pair<std::string, std::string> keyAndValue(const Command& command) {
     const std::string all = upperCase(command.text.substr(command.text.find_first_of("tT") + 1));
     const std::string_view words = trimmed(all);
     const auto end = std::min(words.find_first_of(" \t="), words.size());
-    return {std::string(words.substr(0, end)), std::string(trimmed(words.substr(end)))};
+    std::string_view value = trimmed(words.substr(end));
+    if (value.starts_with('=')) {
+        value = trimmed(value.substr(1));
+    }
+    return {std::string(words.substr(0, end)), std::string(value)};
+}
+
+// What a key switches on and off after a label; null for other keys.
+bool* stateOf(std::string_view key, AfterLabel& afterLabel) {
+    const std::pair<std::string_view, bool*> states[] = {
+        {"TEAR", &afterLabel.tear},
+        {"PEEL", &afterLabel.peel},
+        {"STRIPER", &afterLabel.strip},
+        {"CUTTER", &afterLabel.cut},
+        {"PARTIAL_CUTTER", &afterLabel.partCut},
+    };
+    for (const auto& [name, state] : states) {
+        if (name == key) {
+            return state;
+        }
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -44,20 +65,16 @@ std::optional<std::string> obeySet(const Command& command, AfterLabel& afterLabe
     if (value.empty()) {
         return "SET " + key + " without a value";
     }
-    const bool on = value != "OFF" && value != "0";
-    if (isSwitch && on && value != "ON") {
+    const bool off = value == "OFF" || (isCutter && value == "0");
+    if (isSwitch && !off && value != "ON") {
         return "SET " + key + " takes ON or OFF, not " + printable(value);
     }
     // It cuts after each label, after a job, or after a number of labels.
-    if (isCutter && on && value != "ON" && value != "BATCH" && !parseInteger(value)) {
+    if (isCutter && !off && value != "ON" && value != "BATCH" && !parseInteger(value)) {
         return "SET " + key + " takes ON, OFF, BATCH or a number, not " + printable(value);
     }
-    if (key == "TEAR") {
-        afterLabel.tear = on;
-    } else if (key == "PEEL" || key == "STRIPER") {
-        afterLabel.peel = on;
-    } else if (isCutter) {
-        afterLabel.cut = on;
+    if (bool* state = stateOf(key, afterLabel)) {
+        *state = !off;
     }
     return std::nullopt;
 }

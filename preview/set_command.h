@@ -13,9 +13,13 @@ struct AfterLabel {
     bool tear = false;
     bool peel = false;
     bool cut = false;
+    bool strip = false;    ///< another name for peeling
+    bool partCut = false;  ///< another kind of cutting
 
-    /// Whether at most one of them is on.
-    [[nodiscard]] bool isBalanced() const { return int{tear} + int{peel} + int{cut} <= 1; }
+    /// Whether at most one of tearing, peeling and cutting is on.
+    [[nodiscard]] bool isBalanced() const {
+        return int{tear} + int{peel || strip} + int{cut || partCut} <= 1;
+    }
 };
 
 /// Carries out a SET command. Returns why no printer takes it; nothing when it is fine.

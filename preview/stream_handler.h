@@ -37,6 +37,9 @@ public:
 
     /// A line that is longer than any command, left out.
     virtual void onLongLine(std::uint64_t offset) = 0;
+
+    /// The end of the stream.
+    virtual void onEnd() {}
 };
 
 }  // namespace preview

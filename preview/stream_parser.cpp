@@ -42,6 +42,7 @@ void StreamParser::finish() {
         reportCommand();
     }
     reportBlankLines();
+    handler_.onEnd();
 }
 
 std::size_t StreamParser::takeData(std::span<const std::uint8_t> bytes) {
@@ -81,7 +82,8 @@ void StreamParser::endLine() {
         return;
     }
     if (line_.empty()) {
-        blankStart_ = blankLines_ == 0 ? offset_ : blankStart_;
+        blankStart_ = blankLines_ == 0 ? offset_ - leadingBlanks_ : blankStart_;
+        leadingBlanks_ = 0;
         ++blankLines_;
         return;
     }
@@ -91,8 +93,10 @@ void StreamParser::endLine() {
 void StreamParser::addToLine(char c) {
     if (line_.empty()) {
         if (isBlank(c)) {
+            ++leadingBlanks_;
             return;
         }
+        leadingBlanks_ = 0;
         lineStart_ = offset_;
         commas_ = 0;
     }
@@ -104,18 +108,18 @@ void StreamParser::addToLine(char c) {
         return;
     }
     line_ += c;
-    if (c == ',') {
+    if (isImmediate(line_)) {
+        reportCommand();
+    } else if (c == ',') {
         ++commas_;
         startDataAfterComma();
-    } else if (isImmediate(line_)) {
-        reportCommand();
     }
 }
 
 // Only at the commas that can end a head is the line looked at: a line of nothing but commas is
 // not parsed over and over.
 void StreamParser::startDataAfterComma() {
-    if (commas_ != 2 && commas_ != 3 && commas_ != bitmapCommas) {
+    if (commas_ < 2 || commas_ > bitmapCommas) {
         return;
     }
     const char first = line_.front();
@@ -123,8 +127,9 @@ void StreamParser::startDataAfterComma() {
         return;
     }
     const Command command = parseCommand(lineStart_, line_);
-    if (commas_ == bitmapCommas) {
-        if (const auto head = parseBitmapHead(command)) {
+    if (command.name == "BITMAP") {
+        const auto head = commas_ == bitmapCommas ? parseBitmapHead(command) : std::nullopt;
+        if (head) {
             reportBlankLines();
             line_.clear();
             handler_.onBitmap(*head);

@@ -52,6 +52,7 @@ private:
     std::string line_;
     std::uint64_t lineStart_ = 0;
     std::size_t commas_ = 0;
+    std::uint64_t leadingBlanks_ = 0;
     std::uint64_t blankStart_ = 0;
     std::uint64_t blankLines_ = 0;
     std::uint64_t dataStart_ = 0;

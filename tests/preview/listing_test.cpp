@@ -35,7 +35,7 @@ TEST(List, HasALineForEveryCommandWithItsOffset) {
               "         4  SIZE 2 mm,1 mm\n"
               "        20  cls\n"
               "        25  BITMAP 0,0,2,8,0,  (16 x 8 dots, 16 bytes, 16.4 % of the dots burnt)\n"
-              "        60  BITMAP 0,2,1,1,1,  (8 x 1 dots, 1 bytes, 50.0 % of the dots burnt)\n"
+              "        60  BITMAP 0,2,1,1,1,  (8 x 1 dots, 1 byte, 50.0 % of the dots burnt)\n"
               "        83  TEXT 10,10,\"3\",0,1,1,\"a, b\\x5cc\"  [not drawn]\n"
               "       114  NONSENSE \\x01\\xff  [unknown]\n"
               "       127  SET TEAR ON\n"

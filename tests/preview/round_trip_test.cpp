@@ -127,14 +127,15 @@ RC_GTEST_PROP(RoundTrip, PagesOfWholeBytesComeBackAsTheirFinishedImages, ()) {
     checkRoundTrip(anyJob(dpi, [] { return 8 * *rc::gen::inRange(1U, 63U); }), {});
 }
 
-// SIZE gives the width to a tenth of a millimetre. True where that is nearest to `width` dots and
-// farther than half a tenth from the whole bytes that a row of the bitmap fills, which the
-// previewer takes for the width when it can.
+// SIZE gives the width to a tenth of a millimetre. The previewer cuts no column off that the page
+// can have: true where `width` is the most that it can be, and where whole bytes are more than
+// that.
 bool isToldBySize(unsigned width, unsigned dpi) {
     const double dotsPerTenth = dpi / 254.0;
     const double dots = std::round(width / dotsPerTenth) * dotsPerTenth;
     const unsigned wholeBytes = (width + 7) / 8 * 8;
-    return std::abs(dots - width) < 0.49 && wholeBytes - dots > dotsPerTenth / 2 + 0.01;
+    return std::floor(dots + dotsPerTenth / 2) == width &&
+           wholeBytes - dots > dotsPerTenth / 2 + 0.01;
 }
 
 // The whole bytes of a narrow label's bitmap are much wider than the label and tell a wrong

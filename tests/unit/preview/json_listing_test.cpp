@@ -1,0 +1,133 @@
+// Commands, labels and findings as JSON, read back.
+#include "preview/json_listing.h"
+
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "tests/unit/preview/test_support.h"
+
+namespace preview {
+namespace {
+
+using nlohmann::json;
+
+std::string listed(std::string_view stream) {
+    std::ostringstream out;
+    JsonListing listing(out);
+    obeyStream(stream, listing);
+    return out.str();
+}
+
+// The objects of a list, one per line.
+std::vector<json> objectsOf(std::string_view stream) {
+    std::istringstream lines(listed(stream));
+    std::vector<json> objects;
+    for (std::string line; std::getline(lines, line);) {
+        objects.push_back(json::parse(line));
+    }
+    return objects;
+}
+
+TEST(JsonListing, HasAnObjectForEachCommand) {
+    EXPECT_EQ(objectsOf("cls\nSIZE 4 , 6\r\n"), (std::vector<json>{{{"type", "command"},
+                                                                    {"offset", 0},
+                                                                    {"command", "CLS"},
+                                                                    {"arguments", json::array()},
+                                                                    {"text", "cls"}},
+                                                                   {{"type", "command"},
+                                                                    {"offset", 4},
+                                                                    {"command", "SIZE"},
+                                                                    {"arguments", {"4", "6"}},
+                                                                    {"text", "SIZE 4 , 6"}}}));
+}
+
+TEST(JsonListing, WritesMembersInAFixedOrderOnOneLine) {
+    EXPECT_EQ(listed("FEED 1\n"),
+              "{\"type\":\"command\",\"offset\":0,\"command\":\"FEED\",\"arguments\":[\"1\"],"
+              "\"text\":\"FEED 1\"}\n");
+}
+
+TEST(JsonListing, HasOtherObjectsForWhatIsNoCommand) {
+    EXPECT_EQ(objectsOf("\n\n~!T"),
+              (std::vector<json>{
+                  {{"type", "other"}, {"offset", 0}, {"text", "(2 blank lines)"}},
+                  {{"type", "other"},
+                   {"offset", 2},
+                   {"text", "~!T"},
+                   {"remark", "not part of the picture"}},
+              }));
+}
+
+TEST(JsonListing, SumsUpBitmaps) {
+    const auto objects = objectsOf("BITMAP 0,0,2,3,0,\xFF\x0F");
+    ASSERT_EQ(objects.size(), 2U);
+    EXPECT_EQ(objects[0], (json{{"type", "complaint"},
+                                {"offset", 0},
+                                {"text", "BITMAP is cut short: 2 of 6 bytes are there"}}));
+    EXPECT_EQ(objects[1]["command"], "BITMAP");
+    EXPECT_EQ(objects[1]["arguments"], (json{"0", "0", "2", "3", "0"}));
+    EXPECT_EQ(objects[1]["bitmap"], (json{{"width", 16},
+                                          {"height", 3},
+                                          {"expectedBytes", 6},
+                                          {"receivedBytes", 2},
+                                          {"burntDots", 4},
+                                          {"burntShare", 0.25}}));
+    EXPECT_FALSE(objects[1].contains("remark"));
+}
+
+TEST(JsonListing, TellsFindingsBeforeTheirCommands) {
+    const auto objects = objectsOf("WHAT\nTEXT 1,2,3,4,5,6\n");
+    ASSERT_EQ(objects.size(), 4U);
+    EXPECT_EQ(objects[0],
+              (json{{"type", "complaint"}, {"offset", 0}, {"text", "unknown command: WHAT"}}));
+    EXPECT_EQ(objects[1]["remark"], "unknown");
+    EXPECT_EQ(objects[2], (json{{"type", "remark"}, {"offset", 5}, {"text", "TEXT is not drawn"}}));
+    EXPECT_EQ(objects[3]["remark"], "not drawn");
+}
+
+TEST(JsonListing, TellsLabels) {
+    const auto objects = objectsOf("SIZE 9 dot,4 dot\nBAR 0,0,2,2\nPRINT 2,3\n");
+    ASSERT_EQ(objects.size(), 4U);
+    EXPECT_EQ(objects[2], (json{{"type", "label"},
+                                {"number", 1},
+                                {"width", 9},
+                                {"height", 4},
+                                {"dpi", 203},
+                                {"sets", 2},
+                                {"copies", 3},
+                                {"burntDots", 4}}));
+    EXPECT_EQ(objects[3]["command"], "PRINT");
+}
+
+TEST(JsonListing, HoldsTheLargestNumbers) {
+    const auto objects = objectsOf("BITMAP 0,0,2147483647,2147483647,0,");
+    EXPECT_EQ(objects.at(1)["bitmap"]["expectedBytes"], 4611686014132420609U);
+    EXPECT_EQ(objects.at(1)["bitmap"]["width"], 17179869176);
+    std::ostringstream out;
+    JsonListing listing(out);
+    listing.onFinding({Finding::Kind::Remark, UINT64_MAX, ""});
+    EXPECT_EQ(json::parse(out.str())["offset"], UINT64_MAX);
+}
+
+TEST(JsonListing, ShowsOtherBytesAsTheirNumbers) {
+    const auto objects = objectsOf("TEXT 1,2,3,4,5,\"\xE4\\\"");
+    ASSERT_EQ(objects.size(), 2U);
+    EXPECT_EQ(objects[1]["text"], "TEXT 1,2,3,4,5,\"\\xe4\\x5c\"");
+    EXPECT_EQ(objects[1]["arguments"][5], "\"\\xe4\\x5c\"");
+}
+
+TEST(JsonListing, CanBeReadBackWhateverBytesALineHolds) {
+    std::string stream;
+    for (int byte = 0; byte < 256; ++byte) {
+        if (byte != '\n' && byte != '\r') {
+            stream += "X" + std::string(1, static_cast<char>(byte)) + "\n";
+        }
+    }
+    const auto objects = objectsOf(stream);
+    ASSERT_EQ(objects.size(), 2U * 254);
+    EXPECT_EQ(objects.at(1)["text"], "X\\x00");
+    EXPECT_EQ(objects.back()["text"], "X\\xff");
+}
+
+}  // namespace
+}  // namespace preview
