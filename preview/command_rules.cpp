@@ -96,7 +96,7 @@ bool isOfKind(const std::string& argument, ArgumentKind kind) {
 std::string countWanted(const CommandRule& rule) {
     const std::string fewest = std::to_string(rule.fewestArguments);
     if (rule.mostArguments == anyNumber) {
-        return fewest + " arguments or more";
+        return fewest + (rule.fewestArguments == 1 ? " argument or more" : " arguments or more");
     }
     const std::string most = std::to_string(rule.mostArguments);
     const std::string range =

@@ -103,14 +103,15 @@ bool DotCanvas::burns(std::int64_t x, std::int64_t y) const {
 
 Area DotCanvas::burntArea() const {
     Area area;
-    for (std::size_t i = 0; i < bytes_.size(); ++i) {
-        if (bytes_[i] == 0) {
-            continue;
+    for (std::int64_t y = 0; y < rows(); ++y) {
+        const auto row = std::span(bytes_).subspan(static_cast<std::size_t>(y) * stride_, stride_);
+        const auto last =
+            std::find_if(row.rbegin(), row.rend(), [](auto byte) { return byte != 0; });
+        if (last != row.rend()) {
+            const std::int64_t end = (row.rend() - last) * dotsPerByte - std::countr_zero(*last);
+            area.width = std::max(area.width, end);
+            area.height = y + 1;
         }
-        const auto byte = static_cast<std::int64_t>(i % stride_);
-        const std::int64_t end = (byte + 1) * dotsPerByte - std::countr_zero(bytes_[i]);
-        area.width = std::max(area.width, end);
-        area.height = static_cast<std::int64_t>(i / stride_) + 1;
     }
     return area;
 }
