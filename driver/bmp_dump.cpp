@@ -5,6 +5,7 @@
 
 #include "driver/bmp_file.h"
 #include "driver/kesto_printer.h"
+#include "driver/own_file.h"
 
 std::uint64_t page_index = 0;
 
@@ -20,7 +21,7 @@ void KestoPrinter::saveImage(const unsigned char* data, std::size_t bytesPerLine
                              std::size_t height, std::size_t width, unsigned short bitCount) const {
     char path[sizeof imagePath_ + 128];
     formatNextDumpPath(path);
-    const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path, "wb+"));
+    const std::unique_ptr<std::FILE, FileCloser> file(openOwnFile(path, ownerOnly));
     if (!file) {
         std::fprintf(stderr, "KestoPrinter::saveImage: unable to open the file %s\n", path);
         return;

@@ -15,7 +15,7 @@ bool InputFile::open(const char* path) {
     if (path == nullptr) {
         return true;
     }
-    descriptor_ = ::open(path, O_RDONLY);
+    descriptor_ = ::open(path, O_RDONLY | O_CLOEXEC);
     if (descriptor_ == -1) {
         std::fprintf(stderr, "ERROR: Unable to open raster file - ");
         return false;

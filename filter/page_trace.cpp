@@ -3,9 +3,10 @@
 #include <cstdio>
 
 #include "driver/log.h"
+#include "driver/own_file.h"
 
 void tracePageSize(const cups_page_header2_t& header) {
-    std::FILE* trace = std::fopen("/tmp/xxxxx.log", "w+");
+    std::FILE* trace = openOwnFile("/tmp/xxxxx.log", readableByAll);
     if (trace == nullptr) {
         return;
     }

@@ -4,9 +4,10 @@
 #include <cstring>
 
 #include "driver/log.h"
+#include "driver/own_file.h"
 
 RecordingFile openRecordingFile(const char* name) {
-    RecordingFile file(std::fopen(name, "w"));
+    RecordingFile file(openOwnFile(name, ownerOnly));
     if (file) {
         kestoLogCommon(kestoLogTrace, "Filter data output to: %s", name);
     } else {

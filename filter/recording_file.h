@@ -11,6 +11,7 @@ struct CFileCloser {
 /// A copy of everything the printer receives; null when nothing is recorded.
 using RecordingFile = std::unique_ptr<std::FILE, CFileCloser>;
 
-/// Creates the recording file `name` anew and logs its name. Null, with one error line, when
-/// that fails: the job prints without it.
+/// Creates the recording file `name` anew, for this user's eyes only, and logs its name. Null,
+/// with one error line, when that fails or something else stands there: the job prints without
+/// it.
 RecordingFile openRecordingFile(const char* name);
