@@ -31,6 +31,14 @@ bool isAddressable(const cups_page_header2_t& header) {
     return true;
 }
 
+// The SIZE of such a page is no length, which is for the printer to make something of.
+void warnOfNoResolution(const cups_page_header2_t& header) {
+    if (header.HWResolution[0] == 0 || header.HWResolution[1] == 0) {
+        kestoLogCommon(kestoLogWarning, "Page without a resolution: %u x %u dpi!",
+                       header.HWResolution[0], header.HWResolution[1]);
+    }
+}
+
 }  // namespace
 
 bool PrintJob::printPages() {
@@ -61,6 +69,7 @@ bool PrintJob::printPage() {
 }
 
 void PrintJob::setUpPage() {
+    warnOfNoResolution(header_);
     settings_.pageWidth = millimetres(header_.cupsWidth, header_.HWResolution[0]);
     settings_.pageHeight = millimetres(header_.cupsHeight, header_.HWResolution[1]);
     kestoLogCommon(kestoLogTrace, "pageWidth: %f,pageHeight: %f",

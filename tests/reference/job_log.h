@@ -40,7 +40,8 @@ std::string depthLine(const PageHeader& header);
 /// does not fit 32 bits.
 std::string geometryLine(const PageHeader& header);
 
-/// The lines from the page's size to its header, the trace of the set-up block included.
+/// The lines from the page's size to its header, the trace of the set-up block included. A page
+/// without a resolution has a warning before them.
 /// `settings` already holds the raster page's size; `number` counts pages from 1.
 Lines pageStartLog(const Settings& settings, const PageHeader& header, int number);
 

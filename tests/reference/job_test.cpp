@@ -169,6 +169,17 @@ TEST(ReferenceJob, APageTooLargeFor32BitsEndsTheJob) {
     EXPECT_EQ(runJob(jobOf({page})).status, 1);
 }
 
+TEST(ReferenceJob, APageWithoutAResolutionIsWarnedOfAndSentWithASizeThatIsNone) {
+    Page page = uniformPage(8, 1, 0);
+    page.header.xDpi = 0;
+    const Outcome outcome = runJob(jobOf({page, uniformPage(8, 1, 0)}));
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.standardOutput.find("SIZE inf mm, 0.1 mm\r\n"), 64U);
+    EXPECT_NE(outcome.standardError.find("\nWARN:Page without a resolution: 0 x 203 dpi!\n"
+                                         "DEBUG:pageWidth: inf,pageHeight: 0.125123\n"),
+              std::string::npos);
+}
+
 TEST(ReferenceJob, ACutOffPageIsSetUpAndCountedButNotPrinted) {
     Page cut = uniformPage(8, 1, 0);
     cut.readable = false;

@@ -31,6 +31,14 @@ TEST(Geometry, APageOfFourGibibytesEndsTheJob) {
     expectRefused(8, 1000000, 4295);
 }
 
+TEST(Geometry, PagesWithoutAResolutionAreWarnedOfAndPrinted) {
+    reference::Job job = labelJob({greyPage(24, 9), greyPage(24, 9), greyPage(24, 9)});
+    job.pages[0].header.xDpi = 0;
+    job.pages[1].header.yDpi = 0;
+    job.pages[2].header.xDpi = job.pages[2].header.yDpi = 0;
+    expectPrintsAsReference(job);
+}
+
 TEST(Geometry, APageWithoutDotsIsLoggedAndNotPrinted) {
     reference::Page page = greyPage(24, 9);
     page.header.width = 0;

@@ -95,6 +95,19 @@ TEST_F(JobPages, HaveTheSizeOfTheRasterPage) {
     EXPECT_TRUE(logHolds("DEBUG:pageWidth: 100.098518,pageHeight: 51.051487"));
 }
 
+TEST_F(JobPages, WithoutAResolutionAreWarnedOfAndPrinted) {
+    Page page = noisyPage(8, 1, 8);
+    page.header.xDpi = 0;
+    EXPECT_EQ(print({page, noisyPage(8, 1, 8)}).find("SIZE inf mm, 0.1 mm\r\n"), 0U);
+    EXPECT_TRUE(succeeded);
+    EXPECT_TRUE(logHolds("WARN:Page without a resolution: 0 x 203 dpi!"));
+    EXPECT_FALSE(logHolds("WARN:Page without a resolution: 203 x 203 dpi!"));
+    page.header.yDpi = 0;
+    page.header.xDpi = 300;
+    print({page});
+    EXPECT_TRUE(logHolds("WARN:Page without a resolution: 300 x 0 dpi!"));
+}
+
 TEST_F(JobPages, AreCopiedAsOftenAsTheirHeaderSays) {
     Page page = noisyPage(8, 1, 8);
     page.header.copies = 3;
