@@ -6,45 +6,69 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <stdexcept>
 
-#include "tests/support/temporary_folder.h"
+#include "tests/system/memory_file.h"
 
 namespace {
 
-constexpr unsigned longestRunInSeconds = 60;
-
-void connect(int descriptor, const std::string& path, int flags) {
-    const int file = open(path.c_str(), flags, 0644);
-    if (file == -1 || dup2(file, descriptor) == -1) {
+void require(bool done) {
+    if (!done) {
         _exit(127);
     }
-    close(file);
 }
 
-void limitAddressSpace(std::size_t bytes) {
-    const rlimit limit = {bytes, bytes};
-    if (setrlimit(RLIMIT_AS, &limit) != 0) {
-        _exit(127);
+void connect(int descriptor, int stream) {
+    if (stream == -1) {
+        close(descriptor);
+    } else {
+        require(dup2(stream, descriptor) != -1);
     }
+}
+
+void limit(__rlimit_resource resource, std::size_t most) {
+    const rlimit both = {most, most};
+    require(setrlimit(resource, &both) == 0);
 }
 
 void becomeUser(uid_t user) {
-    if (setgroups(0, nullptr) != 0 || setgid(user) != 0 || setuid(user) != 0) {
-        _exit(127);
+    require(setgroups(0, nullptr) == 0 && setgid(user) == 0 && setuid(user) == 0);
+}
+
+void setTermination(Termination termination) {
+    std::signal(SIGTERM, termination == Termination::Ignored ? SIG_IGN : SIG_DFL);
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGTERM);
+    const bool blocked = termination == Termination::Blocked;
+    require(sigprocmask(blocked ? SIG_BLOCK : SIG_UNBLOCK, &signals, nullptr) == 0);
+}
+
+void setLimits(const FilterCall& call) {
+    alarm(call.longestRun);
+    if (call.userId) {
+        becomeUser(*call.userId);
+    }
+    if (call.fileSize) {
+        limit(RLIMIT_FSIZE, *call.fileSize);
+    }
+    if (call.addressSpace) {
+        limit(RLIMIT_AS, *call.addressSpace);
     }
 }
 
-[[noreturn]] void startFilter(const FilterCall& call, const TemporaryFolder& streams) {
-    connect(STDIN_FILENO, streams.path("in"), O_RDONLY);
-    connect(STDOUT_FILENO, streams.path("out"), O_WRONLY | O_CREAT);
-    connect(STDERR_FILENO, streams.path("err"), O_WRONLY | O_CREAT);
-    // The program is opened here because an ordinary user may not reach the build folder.
-    const int program = open(call.program.c_str(), O_RDONLY | O_CLOEXEC);
-    if (!call.workingFolder.empty() && chdir(call.workingFolder.c_str()) != 0) {
-        _exit(127);
-    }
+[[noreturn]] void becomeFilter(const FilterCall& call, const Streams& streams) {
+    // The program is opened here because an ordinary user may not reach the build folder. It
+    // keeps clear of the numbers of the standard streams.
+    const int opened = open(call.program.c_str(), O_RDONLY | O_CLOEXEC);
+    const int program = fcntl(opened, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    require(program != -1);
+    connect(STDIN_FILENO, streams.input);
+    connect(STDOUT_FILENO, streams.output);
+    connect(STDERR_FILENO, streams.errors);
+    require(call.workingFolder.empty() || chdir(call.workingFolder.c_str()) == 0);
     for (const auto& [name, value] : call.environment) {
         setenv(name.c_str(), value.c_str(), 1);
     }
@@ -53,35 +77,41 @@ void becomeUser(uid_t user) {
         arguments.push_back(const_cast<char*>(argument.c_str()));
     }
     arguments.push_back(nullptr);
-    alarm(longestRunInSeconds);
-    if (call.userId) {
-        becomeUser(*call.userId);
-    }
-    if (call.addressSpace) {
-        limitAddressSpace(*call.addressSpace);
-    }
+    setTermination(call.termination);
+    setLimits(call);
     fexecve(program, arguments.data(), environ);
     _exit(127);
 }
 
-int waitFor(pid_t child) {
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-}
-
 }  // namespace
 
-FilterResult runFilter(const FilterCall& call) {
-    const TemporaryFolder streams;
-    streams.write("in", call.standardInput);
+pid_t startFilter(const FilterCall& call, const Streams& streams) {
     const pid_t child = fork();
     if (child == -1) {
         throw std::runtime_error("cannot start a process");
     }
     if (child == 0) {
-        startFilter(call, streams);
+        becomeFilter(call, streams);
     }
-    const int status = waitFor(child);
-    return {readFile(streams.path("out")), readFile(streams.path("err")), status};
+    return child;
+}
+
+int statusOf(int waitStatus) {
+    return WIFEXITED(waitStatus) ? WEXITSTATUS(waitStatus) : -WTERMSIG(waitStatus);
+}
+
+int waitForEnd(pid_t process) {
+    int status = 0;
+    waitpid(process, &status, 0);
+    return statusOf(status);
+}
+
+FilterResult runFilter(const FilterCall& call) {
+    const MemoryFile input(call.standardInput);
+    const MemoryFile output;
+    const MemoryFile errors;
+    const pid_t child =
+        startFilter(call, {input.descriptor(), output.descriptor(), errors.descriptor()});
+    const int status = waitForEnd(child);
+    return {output.content(), errors.content(), status};
 }

@@ -8,7 +8,10 @@
 #include <utility>
 #include <vector>
 
-/// How to start the filter.
+/// What a process finds SIGTERM set to when it starts.
+enum class Termination { AsUsual, Ignored, Blocked };
+
+/// How to start the filter, or another program.
 struct FilterCall {
     std::string program = KESTO_FILTER;
     std::vector<std::string> arguments;  ///< behind the program's name
@@ -17,6 +20,9 @@ struct FilterCall {
     std::string workingFolder;                ///< empty for the current one
     std::optional<uid_t> userId;              ///< user and group to run as; needs root
     std::optional<std::size_t> addressSpace;  ///< most bytes of memory that it may map
+    std::optional<std::size_t> fileSize;      ///< most bytes that it may write to a file
+    Termination termination = Termination::AsUsual;
+    unsigned longestRun = 60;  ///< seconds after which it is killed
 };
 
 /// What a finished filter process left behind on its standard streams.
@@ -26,5 +32,21 @@ struct FilterResult {
     int status = -1;  ///< exit status, or minus the signal that ended it
 };
 
-/// Runs the filter to its end. A process that does not end within a minute is killed.
+/// Descriptors that become the standard streams of a process; -1 for a closed one.
+struct Streams {
+    int input;
+    int output;
+    int errors;
+};
+
+/// Starts the filter with these streams; what the call says of its input is not read.
+pid_t startFilter(const FilterCall& call, const Streams& streams);
+
+/// Waits for the end of a process. Its exit status, or minus the signal that ended it.
+int waitForEnd(pid_t process);
+
+/// As `FilterResult` has it, out of what `waitpid` says.
+int statusOf(int waitStatus);
+
+/// Runs the filter to its end.
 FilterResult runFilter(const FilterCall& call);
