@@ -24,8 +24,7 @@ bool isOwnFile(int file) {
 // A file from before keeps its permissions when it is opened; it must not keep wider ones.
 bool makeEmpty(int file, mode_t permissions) {
     struct stat status = {};
-    return fstat(file, &status) == 0 &&
-           fchmod(file, status.st_mode & permissions) == 0 &&
+    return fstat(file, &status) == 0 && fchmod(file, status.st_mode & permissions) == 0 &&
            ftruncate(file, 0) == 0;
 }
 

@@ -1,11 +1,13 @@
 #include <cstdlib>
 
 #include "filter/print_job.h"
+#include "filter/process.h"
 #include "filter/usage.h"
 
 /// The filter: `rastertokestotspl job_id user title copies options [file]`. Reads CUPS raster,
 /// writes TSPL to standard output. Status 0 at the end of the raster, 1 for any failure.
 int main(int argc, char* argv[]) {
+    prepareProcess();
     if (argc < 6) {
         printUsage(argv[0]);
         return EXIT_FAILURE;

@@ -1,4 +1,8 @@
+#include <cstdio>
+#include <cstring>
+
 #include "driver/log.h"
+#include "filter/output_check.h"
 #include "filter/page_geometry.h"
 #include "filter/page_trace.h"
 #include "filter/print_job.h"
@@ -43,6 +47,12 @@ void warnOfNoResolution(const cups_page_header2_t& header) {
 
 bool PrintJob::printPages() {
     raster_.reset(cupsRasterOpen(input_.descriptor(), CUPS_RASTER_READ));
+    const bool printed = printRaster();
+    const bool sent = flushOutput();
+    return printed && sent;
+}
+
+bool PrintJob::printRaster() {
     while (cupsRasterReadHeader2(raster_.get(), &header_) != 0) {
         if (!isSupported(header_)) {
             return false;
@@ -50,7 +60,7 @@ bool PrintJob::printPages() {
         if (header_.cupsHeight == 0 || header_.cupsBytesPerLine == 0) {
             return true;
         }
-        if (!isAddressable(header_) || !printPage()) {
+        if (!isAddressable(header_) || !printPage() || !flushOutput()) {
             return false;
         }
     }
@@ -89,5 +99,32 @@ void PrintJob::readAndPrintPixels() {
     if (cupsRasterReadPixels(raster_.get(), page_.data(), pageBytes(header_)) != 0) {
         printer_->printImage(page_.data(), header_.cupsBytesPerLine, header_.cupsHeight,
                              header_.cupsWidth);
+    }
+}
+
+// Whether the printer still takes what it is sent. Commands are written without a look at the
+// outcome, so that one failed stream does not keep the others from being served; here, at the end
+// of a page, is where a failure shows.
+bool PrintJob::flushOutput() {
+    if (recording_) {
+        flushRecording();
+    }
+    if (outputFailed_) {
+        return false;
+    }
+    if (const int reason = flushStream(stdout); reason != 0) {
+        outputFailed_ = true;
+        kestoLogCommon(kestoLogError, "Unable to write to the printer: %s", std::strerror(reason));
+    }
+    return !outputFailed_;
+}
+
+// The print goes on without a recording that has failed.
+void PrintJob::flushRecording() {
+    if (const int reason = flushStream(recording_.get()); reason != 0) {
+        kestoLogCommon(kestoLogError, "Unable to write the recording file %s: %s",
+                       settings_.outputFileName, std::strerror(reason));
+        printer_->getOutputStreams()->remove(recording_.get());
+        recording_.reset();
     }
 }

@@ -31,7 +31,8 @@ public:
     bool hasPaperSize() const;
     /// Opens the stream with 64 line feeds, which end whatever a broken job left behind.
     void sendPreamble();
-    /// Prints every page of the raster (page_loop.cpp). False when a page ends the job.
+    /// Prints every page of the raster and hands all of it on (page_loop.cpp). False when a page
+    /// ends the job or the printer cannot be written to.
     bool printPages();
 
 private:
@@ -46,9 +47,12 @@ private:
         void operator()(cups_raster_t* raster) const { cupsRasterClose(raster); }
     };
 
+    bool printRaster();
     bool printPage();
     void setUpPage();
     void readAndPrintPixels();
+    bool flushOutput();
+    void flushRecording();
 
     // Released from the last to the first: page, raster, input, the published pointer, the
     // recording, the printer.
@@ -57,6 +61,7 @@ private:
     Publication publication_;
     Settings settings_{};
     int pageCount_ = 0;
+    bool outputFailed_ = false;
     cups_page_header2_t header_{};
     InputFile input_;
     std::unique_ptr<cups_raster_t, RasterCloser> raster_;

@@ -125,8 +125,8 @@ std::string geometryLine(const PageHeader& header) {
 Lines pageStartLog(const Settings& settings, const PageHeader& header, int number) {
     Lines log;
     if (header.xDpi == 0 || header.yDpi == 0) {
-        log.push_back(formatted("WARN:Page without a resolution: %u x %u dpi!", header.xDpi,
-                                header.yDpi));
+        log.push_back(
+            formatted("WARN:Page without a resolution: %u x %u dpi!", header.xDpi, header.yDpi));
     }
     trace(log, formatted("pageWidth: %f,pageHeight: %f", static_cast<double>(settings.pageWidth),
                          static_cast<double>(settings.pageHeight)));

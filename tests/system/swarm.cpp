@@ -13,9 +13,8 @@ void Swarm::run(const FilterCall& call, Check check) {
         awaitOne();
     }
     Member member = {MemoryFile(call.standardInput), MemoryFile(), MemoryFile(), std::move(check)};
-    const pid_t child =
-        startFilter(call, {member.input.descriptor(), member.output.descriptor(),
-                           member.errors.descriptor()});
+    const pid_t child = startFilter(
+        call, {member.input.descriptor(), member.output.descriptor(), member.errors.descriptor()});
     members_.emplace(child, std::move(member));
 }
 

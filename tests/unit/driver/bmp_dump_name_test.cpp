@@ -94,6 +94,23 @@ TEST_F(DumpName, ReplacesAFileOfTheSameName) {
     EXPECT_EQ(readFile(folder.path("fixed.bmp")).size(), 1078U + 4);
 }
 
+TEST_F(DumpName, IsThatOfAFileForItsUserAlone) {
+    dump();
+    ASSERT_EQ(folder.names().size(), 1U);
+    using std::filesystem::perms;
+    EXPECT_EQ(std::filesystem::status(folder.path(*folder.names().begin())).permissions(),
+              perms::owner_read | perms::owner_write);
+}
+
+TEST_F(DumpName, DoesNotLeadThroughALinkThatSomebodyPlanted) {
+    const std::string target = folder.write("target", "kept");
+    const std::string path = folder.path("fixed.bmp");
+    std::filesystem::create_symlink(target, path);
+    printer.setImagePath(path);
+    EXPECT_EQ(dump(), "KestoPrinter::saveImage: unable to open the file " + path + "\n");
+    EXPECT_EQ(readFile(target), "kept");
+}
+
 TEST_F(DumpName, MayBeLong) {
     std::string path = folder.path("");
     while (path.size() < 900) {

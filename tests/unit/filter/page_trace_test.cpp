@@ -52,6 +52,14 @@ TEST_F(PageTrace, IsLeftOutSilentlyWhereItCannotBeWritten) {
     EXPECT_TRUE(std::filesystem::is_directory(traceFile));
 }
 
+TEST_F(PageTrace, DoesNotFollowALinkThatSomebodyPlanted) {
+    const TemporaryFolder folder;
+    const std::string target = folder.write("target", "kept");
+    std::filesystem::create_symlink(target, traceFile);
+    trace(1, 2, 3, 8);
+    EXPECT_EQ(readFile(target), "kept");
+}
+
 cups_page_header2_t numberedHeader() {
     cups_page_header2_t header = {};
     header.NumCopies = 3;

@@ -37,6 +37,23 @@ TEST_F(Recording, ReplacesAFileOfTheSameName) {
     EXPECT_EQ(readFile(folder.path("job.bin")), "");
 }
 
+TEST_F(Recording, IsForItsUserAlone) {
+    open(folder.path("job.bin"));
+    using std::filesystem::perms;
+    EXPECT_EQ(std::filesystem::status(folder.path("job.bin")).permissions(),
+              perms::owner_read | perms::owner_write);
+}
+
+TEST_F(Recording, IsNoneWhereSomebodyPlantedALink) {
+    const std::string target = folder.write("target", "kept");
+    const std::string path = folder.path("job.bin");
+    std::filesystem::create_symlink(target, path);
+    EXPECT_EQ(open(path), "ERROR:Unable to open the recording file " + path + ": " +
+                              std::strerror(ELOOP) + "\n");
+    EXPECT_EQ(file, nullptr);
+    EXPECT_EQ(readFile(target), "kept");
+}
+
 TEST_F(Recording, IsNoneWithOneErrorLineWhereItCannotBeMade) {
     const std::string path = folder.path("missing/job.bin");
     EXPECT_EQ(open(path), "ERROR:Unable to open the recording file " + path + ": " +

@@ -1,0 +1,106 @@
+// What the process is readied for, tried on processes that end.
+#include "filter/process.h"
+
+#include <fcntl.h>
+#include <sys/resource.h>
+
+#include <cerrno>
+#include <csignal>
+#include <exception>
+
+#include "tests/support/child_process.h"
+#include "tests/unit/filter/test_support.h"
+
+namespace {
+
+constexpr int held = 0;
+constexpr int broken = 1;
+
+int verdict(bool holds) {
+    return holds ? held : broken;
+}
+
+TEST(PreparedProcess, SurvivesWritingWhereNobodyReads) {
+    EXPECT_EQ(endOfChild([] {
+                  prepareProcess();
+                  int ends[2];
+                  if (pipe(ends) != 0) {
+                      return broken;
+                  }
+                  close(ends[0]);
+                  return verdict(write(ends[1], "x", 1) == -1 && errno == EPIPE);
+              }),
+              held);
+}
+
+TEST(PreparedProcess, SurvivesWritingBeyondTheLimitOfAFile) {
+    const TemporaryFolder folder;
+    const std::string path = folder.path("file");
+    EXPECT_EQ(endOfChild([&path] {
+                  prepareProcess();
+                  const rlimit limit = {1, 1};
+                  setrlimit(RLIMIT_FSIZE, &limit);
+                  const int file = open(path.c_str(), O_WRONLY | O_CREAT, 0600);
+                  const bool first = write(file, "x", 1) == 1;
+                  return verdict(first && write(file, "y", 1) == -1 && errno == EFBIG);
+              }),
+              held);
+}
+
+TEST(PreparedProcess, OpensNothingAsAStandardStream) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("file", "x");
+    EXPECT_EQ(endOfChild([&path] {
+                  for (const int stream : {0, 1, 2}) {
+                      close(stream);
+                  }
+                  prepareProcess();
+                  return verdict(open(path.c_str(), O_RDONLY) > 2);
+              }),
+              held);
+}
+
+TEST(PreparedProcess, StillCannotUseAStandardStreamThatWasClosed) {
+    EXPECT_EQ(endOfChild([] {
+                  close(0);
+                  close(1);
+                  prepareProcess();
+                  char byte = 0;
+                  return verdict(read(0, &byte, 1) == -1 && write(1, &byte, 1) == -1);
+              }),
+              held);
+}
+
+TEST(PreparedProcess, LeavesOpenStandardStreamsAlone) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("file", "x");
+    EXPECT_EQ(endOfChild([&path] {
+                  dup2(open(path.c_str(), O_RDONLY), 0);
+                  prepareProcess();
+                  char byte = 0;
+                  return verdict(read(0, &byte, 1) == 1 && byte == 'x');
+              }),
+              held);
+}
+
+// As an allocation that fails and that nothing catches has it.
+TEST(PreparedProcess, SendsWhatItHasAndSaysSoWhenMemoryRunsOut) {
+    const TemporaryFolder folder;
+    const std::string output = folder.path("out");
+    const std::string log = folder.path("log");
+    EXPECT_EQ(endOfChild([&output, &log] {
+                  prepareProcess();
+                  if (std::freopen(output.c_str(), "w", stdout) == nullptr ||
+                      std::freopen(log.c_str(), "w", stderr) == nullptr) {
+                      return held;
+                  }
+                  std::fputs("CLS\r\n", stdout);
+                  std::terminate();
+                  return held;
+              }),
+              1);
+    EXPECT_EQ(readFile(output), "CLS\r\n");
+    EXPECT_EQ(readFile(log), "CRIT:Out of memory, the job ends\n");
+}
+
+}  // namespace
