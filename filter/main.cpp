@@ -1,11 +1,13 @@
 #include <cstdlib>
 
+#include "filter/cancellation.h"
 #include "filter/print_job.h"
 #include "filter/process.h"
 #include "filter/usage.h"
 
 /// The filter: `rastertokestotspl job_id user title copies options [file]`. Reads CUPS raster,
-/// writes TSPL to standard output. Status 0 at the end of the raster, 1 for any failure.
+/// writes TSPL to standard output. Status 0 at the end of the raster and for a job that SIGTERM
+/// cancels, 1 for any failure.
 int main(int argc, char* argv[]) {
     prepareProcess();
     if (argc < 6) {
@@ -16,6 +18,7 @@ int main(int argc, char* argv[]) {
     if (!job.openInput(argc > 6 ? argv[6] : nullptr)) {
         return EXIT_FAILURE;
     }
+    heedCancellation(job.inputDescriptor());
     job.createPrinter();
     job.readSettings(argv[5]);
     job.startRecording();

@@ -2,6 +2,7 @@
 #include <cstring>
 
 #include "driver/log.h"
+#include "filter/cancellation.h"
 #include "filter/output_check.h"
 #include "filter/page_geometry.h"
 #include "filter/page_trace.h"
@@ -49,11 +50,15 @@ bool PrintJob::printPages() {
     raster_.reset(cupsRasterOpen(input_.descriptor(), CUPS_RASTER_READ));
     const bool printed = printRaster();
     const bool sent = flushOutput();
+    if (isCancelled()) {
+        kestoLogCommon(kestoLogTrace, "The job was cancelled");
+        return true;
+    }
     return printed && sent;
 }
 
 bool PrintJob::printRaster() {
-    while (cupsRasterReadHeader2(raster_.get(), &header_) != 0) {
+    while (readHeader()) {
         if (!isSupported(header_)) {
             return false;
         }
@@ -65,6 +70,11 @@ bool PrintJob::printRaster() {
         }
     }
     return true;
+}
+
+// Pages that libcups had at hand when the job was cancelled are not begun.
+bool PrintJob::readHeader() {
+    return cupsRasterReadHeader2(raster_.get(), &header_) != 0 && !isCancelled();
 }
 
 bool PrintJob::printPage() {
@@ -96,7 +106,8 @@ void PrintJob::setUpPage() {
 
 // A page whose pixels cannot be read is dropped, and the next one is tried.
 void PrintJob::readAndPrintPixels() {
-    if (cupsRasterReadPixels(raster_.get(), page_.data(), pageBytes(header_)) != 0) {
+    const unsigned read = cupsRasterReadPixels(raster_.get(), page_.data(), pageBytes(header_));
+    if (read != 0 && !isCancelled()) {
         printer_->printImage(page_.data(), header_.cupsBytesPerLine, header_.cupsHeight,
                              header_.cupsWidth);
     }
@@ -104,7 +115,8 @@ void PrintJob::readAndPrintPixels() {
 
 // Whether the printer still takes what it is sent. Commands are written without a look at the
 // outcome, so that one failed stream does not keep the others from being served; here, at the end
-// of a page, is where a failure shows.
+// of a page, is where a failure shows. When nobody is left to read a cancelled job, nothing is
+// wrong.
 bool PrintJob::flushOutput() {
     if (recording_) {
         flushRecording();
@@ -114,7 +126,8 @@ bool PrintJob::flushOutput() {
     }
     if (const int reason = flushStream(stdout); reason != 0) {
         outputFailed_ = true;
-        kestoLogCommon(kestoLogError, "Unable to write to the printer: %s", std::strerror(reason));
+        kestoLogCommon(isCancelled() ? kestoLogTrace : kestoLogError,
+                       "Unable to write to the printer: %s", std::strerror(reason));
     }
     return !outputFailed_;
 }

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "filter/cancellation.h"
 #include "filter/current_printer.h"
 #include "filter/job_settings.h"
 
@@ -49,7 +50,7 @@ bool PrintJob::hasPaperSize() const {
 
 void PrintJob::sendPreamble() {
     constexpr int lineFeeds = 64;
-    for (int i = 0; i < lineFeeds; ++i) {
+    for (int i = 0; i < lineFeeds && !isCancelled(); ++i) {
         printer_->printByte('\n');
     }
 }

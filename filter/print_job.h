@@ -21,6 +21,7 @@ public:
 
     /// Reads from `path`, or from standard input for null.
     bool openInput(const char* path);
+    int inputDescriptor() const { return input_.descriptor(); }
     /// Makes the printer and publishes it as `sPrinter`.
     void createPrinter();
     /// Takes the settings from the PPD and the job's option string.
@@ -29,10 +30,11 @@ public:
     void startRecording();
     /// Whether the PPD gave a paper size.
     bool hasPaperSize() const;
-    /// Opens the stream with 64 line feeds, which end whatever a broken job left behind.
+    /// Opens the stream with 64 line feeds, which end whatever a broken job left behind. A job
+    /// that is cancelled by then sends nothing.
     void sendPreamble();
     /// Prints every page of the raster and hands all of it on (page_loop.cpp). False when a page
-    /// ends the job or the printer cannot be written to.
+    /// ends the job or the printer cannot be written to. A cancelled job has succeeded.
     bool printPages();
 
 private:
@@ -48,6 +50,7 @@ private:
     };
 
     bool printRaster();
+    bool readHeader();
     bool printPage();
     void setUpPage();
     void readAndPrintPixels();

@@ -1,5 +1,8 @@
 #include "filter/tspl_printer.h"
 
+#include <cstdio>
+
+#include "filter/cancellation.h"
 #include "filter/tspl_page_commands.h"
 
 namespace {
@@ -22,6 +25,9 @@ void sendPackedRow(KestoPrinter& printer, const unsigned char* pixels, std::int3
 
 void TsplPrinter::doPrintImage(const unsigned char* pixels, std::size_t /*bytesPerLine*/,
                                std::size_t height, std::size_t width) {
+    if (isCancelled()) {
+        return;
+    }
     const auto columns = static_cast<std::int32_t>(width);
     const auto rows = static_cast<std::int32_t>(height);
     setBitmapCmdHead(0, 0, static_cast<int>((width + 7) / 8), rows, 0);
@@ -30,5 +36,12 @@ void TsplPrinter::doPrintImage(const unsigned char* pixels, std::size_t /*bytesP
         pixels += width;
     }
     printStr("\r\n");
-    setPrint(1, static_cast<int>(getPageHeader()->NumCopies));
+    // Handed on before the decision to print: a slow printer may take the data for long, and the
+    // job be cancelled meanwhile.
+    for (std::FILE* stream : outputStreams_) {
+        std::fflush(stream);
+    }
+    if (!isCancelled()) {
+        setPrint(1, static_cast<int>(getPageHeader()->NumCopies));
+    }
 }
