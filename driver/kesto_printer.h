@@ -162,8 +162,10 @@ private:
     };
 
     void formatNextDumpPath(std::span<char> path) const;
-    /// False for null and for an image that a step without memory left empty.
-    bool hasFinishedImage() const { return pimage_ != nullptr && pimage_->IsValid(); }
+    /// False for null and for an image that a step without memory left empty or packed.
+    bool hasFinishedImage() const {
+        return pimage_ != nullptr && pimage_->IsValid() && pimage_->GetHeader().biBitCount == 8;
+    }
     void setDumpTemplate(const char* pathTemplate);
     BlankEdges countBlankEdges(const unsigned char* data, std::size_t bytesPerLine,
                                std::size_t height, std::size_t width) const;

@@ -43,4 +43,25 @@ TEST_F(PageWithoutMemory, ForItsSecondBufferIsGivenUpAfterTheRawDump) {
     EXPECT_EQ(page_index, dumps.firstIndex() + 1);
 }
 
+// A page is as large as it says or not printed: where the halftone cannot be unpacked to a byte
+// per pixel, its rows are too short for that.
+TEST_F(PageWithoutMemory, ForAnyOfItsBuffersIsPrintedInFullOrNotAtAll) {
+    constexpr std::size_t side = 40;
+    const reference::Bytes page = noise(side * side);
+    int printed = 0;
+    for (int ordinal = 1; ordinal <= 60; ++ordinal) {
+        TestPrinter fresh;
+        errorOutputOf([&] {
+            const FailingAllocation failure(ordinal);
+            fresh.printImage(page.data(), side, side, side);
+        });
+        for (const TestPrinter::PrintedPage& finished : fresh.pages) {
+            ++printed;
+            EXPECT_EQ(finished.bits.size(), side * side) << ordinal;
+        }
+    }
+    EXPECT_GT(printed, 0);
+    EXPECT_LT(printed, 60);
+}
+
 }  // namespace
