@@ -47,6 +47,22 @@ TEST_F(JobOptions, CountByTheLastOfAKind) {
     EXPECT_STREQ(parsed("PaperType=LabelMark PaperType=Continue").PaperType, "Continue");
 }
 
+// Longer than the system lets any single argument be.
+TEST_F(JobOptions, MayBeAMegabyteLong) {
+    constexpr std::size_t megabyte = std::size_t{1} << 20;
+    const std::string last = " Darkness=15";
+    for (const std::string& piece :
+         {std::string("x"), std::string("a=b "), std::string("{"), std::string("\""),
+          std::string("'"), std::string("\\"), std::string(" "), std::string("PaperType=")}) {
+        std::string options;
+        while (options.size() < megabyte) {
+            options += piece;
+        }
+        EXPECT_STREQ(parsed(options.c_str()).PaperType, "LabelGaps") << piece;
+    }
+    EXPECT_EQ(parsed(("a=" + std::string(megabyte, 'b') + last).c_str()).Darkness, 15);
+}
+
 TEST_F(JobOptions, MayBeNegativeNumbers) {
     EXPECT_EQ(parsed("Darkness=-1").Darkness, -1);
 }
