@@ -43,8 +43,9 @@ TEST(DamagedHeader, WithAnySingleBitFlippedIsPrintedOrRefusedAsTheReferenceSays)
         }
         const bool together = pagesIn(all).size() == wordBits;
         for (std::size_t bit = word; bit < word + wordBits && !together; ++bit) {
-            runs.expectReference(sync + pageWithFlippedBit(page, bit) + page,
-                                 "bit " + std::to_string(bit));
+            runs.expectReference(
+                std::string(sync).append(pageWithFlippedBit(page, bit)).append(page),
+                "bit " + std::to_string(bit));
             ++alone;
         }
         if (together && word / wordBits % faultStride == 0) {

@@ -51,7 +51,7 @@ protected:
 
     // The job prints as if nothing were there, and the precious file stays what it was.
     FilterResult expectPrints() const {
-        const FilterResult result = runFilter(call);
+        FilterResult result = runFilter(call);
         EXPECT_EQ(result.status, 0);
         expectSameBytes(reference::runJob(job).standardOutput, result.standardOutput, "output");
         EXPECT_EQ(readFile(precious), "kept");

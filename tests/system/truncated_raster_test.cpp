@@ -10,7 +10,7 @@ TEST(TruncatedRaster, OfSmallPagesKeepsThePagesThatAreWholeWhereverItEnds) {
     const reference::Job job =
         labelJob({greyPage(16, 6, 1), greyPage(16, 6, 2), greyPage(16, 6, 3)});
     const std::string whole = rasterStream(job.pages, RasterForm::Plain);
-    const std::size_t pageBytes = rasterHeaderBytes + 16 * 6;
+    const std::size_t pageBytes = rasterHeaderBytes + std::size_t{16} * 6;
     const std::size_t start = rasterSyncBytes + pageBytes;
     FaultRuns runs(job);
     for (std::size_t kept = start; kept <= start + pageBytes; kept += faultStride) {

@@ -36,7 +36,7 @@ public:
     QueueText& option(const std::string& keyword, const std::vector<std::string>& choices) {
         open(keyword, choices.front());
         for (const std::string& choice : choices) {
-            text_ += "*" + keyword + " " + choice + ": \"\"\n";
+            text_.append("*").append(keyword).append(" ").append(choice).append(": \"\"\n");
         }
         text_ += "*CloseUI: *" + keyword + "\n";
         return *this;
