@@ -1,9 +1,24 @@
 #include "filter/page_trace.h"
 
 #include <cstdio>
+#include <cstring>
 
 #include "driver/log.h"
 #include "driver/own_file.h"
+
+namespace {
+
+// A header can hold any number here, also one that the enumeration does not have and that must
+// not be looked at as its value.
+template <typename Enumeration>
+unsigned numberIn(const Enumeration& field) {
+    unsigned number = 0;
+    static_assert(sizeof number == sizeof field);
+    std::memcpy(&number, &field, sizeof number);
+    return number;
+}
+
+}  // namespace
 
 void tracePageSize(const cups_page_header2_t& header) {
     std::FILE* trace = openOwnFile("/tmp/xxxxx.log", readableByAll);
@@ -32,8 +47,8 @@ void logPageHeader(int pageNumber, const cups_page_header2_t& header) {
     logField("cupsBitsPerColor", header.cupsBitsPerColor);
     logField("cupsBitsPerPixel", header.cupsBitsPerPixel);
     logField("cupsBytesPerLine", header.cupsBytesPerLine);
-    logField("cupsColorOrder", header.cupsColorOrder);
-    logField("cupsColorSpace", header.cupsColorSpace);
+    logField("cupsColorOrder", numberIn(header.cupsColorOrder));
+    logField("cupsColorSpace", numberIn(header.cupsColorSpace));
     logField("cupsCompression", header.cupsCompression);
     logField("cupsRowCount", header.cupsRowCount);
     logField("cupsRowFeed", header.cupsRowFeed);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 namespace {
 
@@ -23,6 +24,15 @@ ssize_t readFromString(void* source, unsigned char* bytes, size_t size) {
     return static_cast<ssize_t>(count);
 }
 
+// Streams can hold numbers that the enumeration does not have.
+template <typename Enumeration>
+std::uint32_t numberIn(const Enumeration& field) {
+    std::uint32_t number = 0;
+    static_assert(sizeof number == sizeof field);
+    std::memcpy(&number, &field, sizeof number);
+    return number;
+}
+
 PageHeader fromCups(const cups_page_header2_t& cups) {
     PageHeader header;
     header.width = cups.cupsWidth;
@@ -30,8 +40,8 @@ PageHeader fromCups(const cups_page_header2_t& cups) {
     header.bytesPerLine = cups.cupsBytesPerLine;
     header.bitsPerPixel = cups.cupsBitsPerPixel;
     header.bitsPerColor = cups.cupsBitsPerColor;
-    header.colorOrder = static_cast<std::uint32_t>(cups.cupsColorOrder);
-    header.colorSpace = static_cast<std::uint32_t>(cups.cupsColorSpace);
+    header.colorOrder = numberIn(cups.cupsColorOrder);
+    header.colorSpace = numberIn(cups.cupsColorSpace);
     header.compression = cups.cupsCompression;
     header.rowCount = cups.cupsRowCount;
     header.rowFeed = cups.cupsRowFeed;

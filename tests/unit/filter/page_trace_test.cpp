@@ -103,6 +103,17 @@ TEST(PageHeaderLog, NamesThePageAndEveryFieldInOrder) {
               "DEBUG:header.cupsRowStep:20\n");
 }
 
+// What a damaged stream can hold: under the sanitizers a look at it as an enumerator would end.
+TEST(PageHeaderLog, ShowsNumbersThatAnEnumerationDoesNotHave) {
+    cups_page_header2_t header = numberedHeader();
+    const unsigned number = 77777;
+    std::memcpy(&header.cupsColorOrder, &number, sizeof number);
+    std::memcpy(&header.cupsColorSpace, &number, sizeof number);
+    const std::string log = errorOutputOf([&] { logPageHeader(1, header); });
+    EXPECT_NE(log.find("DEBUG:header.cupsColorOrder:77777\nDEBUG:header.cupsColorSpace:77777\n"),
+              std::string::npos);
+}
+
 TEST(PageHeaderLog, ShowsLargeNumbersAsNegativeOnes) {
     cups_page_header2_t header = numberedHeader();
     header.cupsRowStep = 0xFFFFFFFF;
