@@ -66,19 +66,6 @@ TEST(Progress, OfASlowStreamIsShownOnATerminalAndRemovedAtTheEnd) {
     EXPECT_EQ(readFile(folder.path("list")).find("tsplpreview"), std::string::npos);
 }
 
-TEST(Progress, OfAFileNamesItsLength) {
-    const TemporaryFolder folder;
-    std::string stream = "SIZE 2000 dot,2000 dot\r\n";
-    for (int i = 0; i < 50000; ++i) {
-        stream += "REVERSE 0,0,400,400\r\n";
-    }
-    folder.write("long", stream);
-    // A megabyte of commands that take a few seconds.
-    const TerminalRun run = runOnTerminal(folder, "\"$PREVIEW\" --check long");
-    EXPECT_EQ(run.status, 0);
-    EXPECT_NE(run.shown.find(" of 1.1 MB, 0 labels"), std::string::npos) << run.shown;
-}
-
 TEST(Progress, MakesWayForWhatIsSaid) {
     const TemporaryFolder folder;
     folder.write("label", smallLabel(letterBitmap));
