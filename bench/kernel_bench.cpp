@@ -1,90 +1,228 @@
-// The kernels on one photograph-like page, beside a plain copy of it: read the times as ratios
-// to CopyPage of the same run.
+// The kernels on one photograph-like page, each beside its plain reference and all beside a
+// copy of the page. Times are per pixel; compare those of one run only.
 
 #include <benchmark/benchmark.h>
 
+#include <cstdio>
 #include <cstring>
+#include <memory>
 #include <vector>
 
+#include "bench/test_page.h"
+#include "enhance/edge_diffusion.h"
+#include "enhance/gaussian.h"
+#include "enhance/moment_threshold.h"
 #include "enhance/tattoo_dithering.h"
+#include "enhance/unsharp_mask.h"
+#include "filter/current_printer.h"
+#include "filter/tspl_printer.h"
 #include "image/raster_image.h"
+#include "tests/reference/dither.h"
+#include "tests/reference/stencil.h"
+#include "tests/reference/stencil_blur.h"
+#include "tests/reference/tone.h"
+#include "tests/reference/transforms.h"
+#include "tests/reference/tspl.h"
 
 namespace {
 
-constexpr unsigned width = 808;
-constexpr unsigned height = 1218;
+constexpr PageSize size = {1200, 1800};
 
-std::vector<std::uint8_t> greyPage() {
-    std::vector<std::uint8_t> page;
-    unsigned noise = 1;
-    for (unsigned y = 0; y < height; ++y) {
-        for (unsigned x = 0; x < width; ++x) {
-            noise = noise * 48271 % 2147483647;
-            page.push_back(static_cast<std::uint8_t>((x + y) / 9 + noise % 24));
-        }
-    }
-    return page;
+const std::vector<std::uint8_t>& page() {
+    static const std::vector<std::uint8_t> photograph = testPage(size, PageContent::Photograph);
+    return photograph;
 }
 
-void load(RasterImage& image, const std::vector<std::uint8_t>& page) {
-    image.CreateFromArray(page.data(), width, height, 8, width, false);
+void countPixels(benchmark::State& state) {
+    using benchmark::Counter;
+    state.counters["perPixel"] = Counter(static_cast<double>(size.pixels()),
+                                         Counter::kIsIterationInvariantRate | Counter::kInvert);
 }
 
-// Runs one operation on a freshly loaded page, outside the measured time.
+// Runs an operation whose result is thrown away.
 template <typename Operation>
 void measure(benchmark::State& state, Operation operation) {
-    const std::vector<std::uint8_t> page = greyPage();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(operation());
+    }
+    countPixels(state);
+}
+
+void load(RasterImage& image) {
+    image.CreateFromArray(page().data(), size.width, size.height, 8, size.width, false);
+}
+
+// Runs an operation that changes an image; what comes before it is not measured.
+template <typename Operation, typename Prepare = void (*)(RasterImage&)>
+void measureOnImage(benchmark::State& state, Operation operation, Prepare prepare = load) {
     for (auto _ : state) {
         state.PauseTiming();
         RasterImage image;
-        load(image, page);
+        prepare(image);
         state.ResumeTiming();
         operation(image);
         benchmark::DoNotOptimize(image.GetBits());
     }
-    state.SetItemsProcessed(state.iterations() * width * height);
+    countPixels(state);
+}
+
+reference::GreyImage referenceImage() {
+    return reference::imageFromPacked(page(), size.width, size.height);
+}
+
+QMImage stencilImage() {
+    return {static_cast<int>(size.width), static_cast<int>(size.height), QM_IMG_GRAY,
+            page().data()};
 }
 
 void CopyPage(benchmark::State& state) {
-    const std::vector<std::uint8_t> page = greyPage();
-    std::vector<std::uint8_t> copy(page.size());
-    for (auto _ : state) {
-        std::memcpy(copy.data(), page.data(), page.size());
-        benchmark::DoNotOptimize(copy.data());
-    }
-    state.SetItemsProcessed(state.iterations() * width * height);
+    std::vector<std::uint8_t> copy(page().size());
+    measure(state, [&copy] { return std::memcpy(copy.data(), page().data(), copy.size()); });
 }
 BENCHMARK(CopyPage);
 
+void LoadPage(benchmark::State& state) {
+    measure(state, [] {
+        RasterImage image;
+        load(image);
+        return image.GetBits();
+    });
+}
+BENCHMARK(LoadPage);
+
 void Dither(benchmark::State& state) {
-    measure(state, [&state](RasterImage& image) { image.Dither(state.range(0)); });
+    measureOnImage(state, [&state](RasterImage& image) { image.Dither(state.range(0)); });
 }
 BENCHMARK(Dither)->DenseRange(0, 8)->Unit(benchmark::kMillisecond);
 
+void ReferenceDither(benchmark::State& state) {
+    measure(state, [&state] {
+        return reference::dither(state.range(0), size.width, size.height, page());
+    });
+}
+BENCHMARK(ReferenceDither)->DenseRange(0, 8)->Unit(benchmark::kMillisecond);
+
+void loadThresholded(RasterImage& image) {
+    load(image);
+    image.Dither(0);
+}
+
+void IncreaseBpp(benchmark::State& state) {
+    measureOnImage(
+        state, [](RasterImage& image) { image.IncreaseBpp(8); }, loadThresholded);
+}
+BENCHMARK(IncreaseBpp);
+
 void Light(benchmark::State& state) {
-    measure(state, [](RasterImage& image) { image.Light(25, 0); });
+    measureOnImage(state, [](RasterImage& image) { image.Light(25, 0); });
 }
 BENCHMARK(Light);
 
+void ReferenceLight(benchmark::State& state) {
+    reference::GreyImage image = referenceImage();
+    measure(state, [&image] {
+        reference::light(image, 25, 0);
+        return image.bytes.data();
+    });
+}
+BENCHMARK(ReferenceLight);
+
 void Mirror(benchmark::State& state) {
-    measure(state, [](RasterImage& image) { image.Mirror(); });
+    measureOnImage(state, [](RasterImage& image) { image.Mirror(); });
 }
 BENCHMARK(Mirror);
 
+void ReferenceMirror(benchmark::State& state) {
+    measure(state, [image = referenceImage()] { return reference::mirror(image); });
+}
+BENCHMARK(ReferenceMirror);
+
+void Rotate180(benchmark::State& state) {
+    measureOnImage(state, [](RasterImage& image) { image.Rotate180(); });
+}
+BENCHMARK(Rotate180);
+
+void ReferenceRotate180(benchmark::State& state) {
+    measure(state, [image = referenceImage()] { return reference::rotate180(image); });
+}
+BENCHMARK(ReferenceRotate180);
+
 void Negative(benchmark::State& state) {
-    measure(state, [](RasterImage& image) { image.Negative(); });
+    measureOnImage(state, [](RasterImage& image) { image.Negative(); });
 }
 BENCHMARK(Negative);
 
+void ReferenceNegative(benchmark::State& state) {
+    measure(state, [image = referenceImage()] { return reference::negative(image); });
+}
+BENCHMARK(ReferenceNegative);
+
+class SendingPrinter : public TsplPrinter {
+public:
+    using TsplPrinter::doPrintImage;
+};
+
+void PackAndSend(benchmark::State& state) {
+    SendingPrinter printer;
+    cups_page_header2_t header{};
+    printer.setPageHeader(&header);
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> sink(std::fopen("/dev/null", "w"),
+                                                               std::fclose);
+    *printer.getOutputStreams() = {sink.get()};
+    sPrinter = &printer;
+    measure(state, [&printer] {
+        printer.doPrintImage(page().data(), size.width, size.height, size.width);
+        return 0;
+    });
+    sPrinter = nullptr;
+}
+BENCHMARK(PackAndSend);
+
+void ReferencePackAndSend(benchmark::State& state) {
+    measure(state, [image = referenceImage()] { return reference::bitmapCommand(image); });
+}
+BENCHMARK(ReferencePackAndSend);
+
 void Stencil(benchmark::State& state) {
-    const std::vector<std::uint8_t> page = greyPage();
-    const QMImage image(width, height, QM_IMG_GRAY, page.data());
-    for (auto _ : state) {
-        const QMImage stencil = qmTattooDithering(image);
-        benchmark::DoNotOptimize(stencil.data);
-    }
-    state.SetItemsProcessed(state.iterations() * width * height);
+    measure(state, [image = stencilImage()] { return qmTattooDithering(image).data[0]; });
 }
 BENCHMARK(Stencil)->Unit(benchmark::kMillisecond);
+
+void ReferenceStencil(benchmark::State& state) {
+    measure(state, [] { return reference::stencil(size.width, size.height, page(), false); });
+}
+BENCHMARK(ReferenceStencil)->Unit(benchmark::kMillisecond);
+
+void StencilThreshold(benchmark::State& state) {
+    measure(state, [image = stencilImage()] { return thresh_global_moments(image); });
+}
+BENCHMARK(StencilThreshold);
+
+void StencilBlur(benchmark::State& state) {
+    measure(state,
+            [image = stencilImage()] { return enh_gaussian_filter_fast(image, 11, 3.0).data[0]; });
+}
+BENCHMARK(StencilBlur)->Unit(benchmark::kMillisecond);
+
+void ReferenceStencilBlur(benchmark::State& state) {
+    measure(state, [] { return reference::blurred(size.width, size.height, page(), 11, 3.0); });
+}
+BENCHMARK(ReferenceStencilBlur)->Unit(benchmark::kMillisecond);
+
+void StencilSharpen(benchmark::State& state) {
+    measure(state,
+            [image = stencilImage()] { return enh_unsharp_mask(image, 300.0F, 11).data[0]; });
+}
+BENCHMARK(StencilSharpen)->Unit(benchmark::kMillisecond);
+
+void StencilDiffusion(benchmark::State& state) {
+    measure(state, [image = stencilImage()] { return edf_cus(image, 128).data[0]; });
+}
+BENCHMARK(StencilDiffusion)->Unit(benchmark::kMillisecond);
+
+void ReferenceStencilDiffusion(benchmark::State& state) {
+    measure(state, [] { return reference::diffuseStencil(size.width, size.height, page(), 128); });
+}
+BENCHMARK(ReferenceStencilDiffusion)->Unit(benchmark::kMillisecond);
 
 }  // namespace
