@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "image/diffusion_wavefront.h"
 #include "image/raster_image.h"
 
 namespace {
@@ -53,16 +54,8 @@ void spread(RasterImage& source, std::int64_t x, std::int64_t y, int error,
     }
 }
 
-}  // namespace
-
-const DiffusionKernel floydSteinbergKernel = {16, floydSteinbergCells};
-const DiffusionKernel burkesKernel = {32, burkesCells};
-const DiffusionKernel stuckiKernel = {42, stuckiCells};
-const DiffusionKernel jarvisJudiceNinkeKernel = {48, jarvisJudiceNinkeCells};
-const DiffusionKernel sierraKernel = {32, sierraCells};
-const DiffusionKernel stevensonArceKernel = {200, stevensonArceCells};
-
-void diffuseError(RasterImage& source, RasterImage& target, const DiffusionKernel& kernel) {
+// Any depth, pixel by pixel. What lies beyond the depth of a pixel is lost.
+void diffuseByPixel(RasterImage& source, RasterImage& target, const DiffusionKernel& kernel) {
     for (std::int64_t y = 0; y < source.GetHeight(); ++y) {
         for (std::int64_t x = 0; x < source.GetWidth(); ++x) {
             const int level = source.BlindGetPixelIndex(x, y);
@@ -70,5 +63,37 @@ void diffuseError(RasterImage& source, RasterImage& target, const DiffusionKerne
             target.SetPixelIndex(x, y, white ? 1 : 0);
             spread(source, x, y, white ? level - 255 : level, kernel);
         }
+    }
+}
+
+ByteRows rowsOf(RasterImage& image, std::ptrdiff_t width) {
+    return {image.GetBits(), static_cast<std::ptrdiff_t>(image.GetEffWidth()), width,
+            image.GetHeight()};
+}
+
+// Eight bits: the same in a wavefront over the bytes.
+template <int divisor, const auto& cells>
+void diffuseBytes(RasterImage& source, RasterImage& target) {
+    const std::ptrdiff_t width = source.GetWidth();
+    DiffusionWavefront<divisor, cells>::run(rowsOf(source, width), rowsOf(target, (width + 7) / 8));
+}
+
+}  // namespace
+
+const DiffusionKernel floydSteinbergKernel = {16, floydSteinbergCells,
+                                              diffuseBytes<16, floydSteinbergCells>};
+const DiffusionKernel burkesKernel = {32, burkesCells, diffuseBytes<32, burkesCells>};
+const DiffusionKernel stuckiKernel = {42, stuckiCells, diffuseBytes<42, stuckiCells>};
+const DiffusionKernel jarvisJudiceNinkeKernel = {48, jarvisJudiceNinkeCells,
+                                                 diffuseBytes<48, jarvisJudiceNinkeCells>};
+const DiffusionKernel sierraKernel = {32, sierraCells, diffuseBytes<32, sierraCells>};
+const DiffusionKernel stevensonArceKernel = {200, stevensonArceCells,
+                                             diffuseBytes<200, stevensonArceCells>};
+
+void diffuseError(RasterImage& source, RasterImage& target, const DiffusionKernel& kernel) {
+    if (source.GetHeader().biBitCount == 8) {
+        kernel.diffuseBytes(source, target);
+    } else {
+        diffuseByPixel(source, target, kernel);
     }
 }

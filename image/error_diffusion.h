@@ -17,6 +17,7 @@ struct DiffusionCell {
 struct DiffusionKernel {
     int divisor;
     std::span<const DiffusionCell> cells;
+    void (*diffuseBytes)(RasterImage& source, RasterImage& target);  ///< for sources of 8 bits
 };
 
 /// R. W. Floyd and L. Steinberg, "An adaptive algorithm for spatial grayscale", Proc. SID 17,

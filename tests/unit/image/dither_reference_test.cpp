@@ -93,6 +93,28 @@ TEST_P(DitherReference, IsMetByConstantPagesOfAllWidths) {
     }
 }
 
+// Error diffusion works on eight rows at once, which reach up to three rows further down, and the
+// first and last columns of a row are apart from those between them.
+TEST_P(DitherReference, IsMetByPagesOfSomeRowsMoreOrLessThanWholeBands) {
+    for (const std::uint32_t height : {7U, 8U, 9U, 10U, 11U, 12U, 15U, 16U, 18U, 19U, 20U, 33U}) {
+        for (const std::uint32_t width : {1U, 3U, 8U, 9U, 31U, 47U, 48U, 49U, 65U, 67U, 72U, 75U}) {
+            expectAsReference(width, height, noise(std::size_t{width} * height, width * height));
+        }
+    }
+}
+
+TEST_P(DitherReference, IsMetByPagesOfThreeBandsOfAllWidths) {
+    for (std::uint32_t width = 1; width <= 130; ++width) {
+        expectAsReference(width, 27, noise(std::size_t{width} * 27, width));
+    }
+}
+
+TEST_P(DitherReference, IsMetByLargePages) {
+    expectAsReference(1003, 131, noise(std::size_t{1003} * 131, 5));
+    expectAsReference(1240, 97, gradient(1240, 97));
+    expectAsReference(811, 203, middleNoise(std::size_t{811} * 203, 6));
+}
+
 TEST_P(DitherReference, IsMetByEveryConstantLevel) {
     for (int level = 0; level < 256; ++level) {
         expectAsReference(19, 11, Bytes(std::size_t{19} * 11, static_cast<std::uint8_t>(level)));
