@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstddef>
+#include <vector>
+
 #include "enhance/qm_image.h"
 
 /// Halftones a grey image to 0 (black) and 255 (white: strictly above `threshold`) by error
@@ -8,3 +11,28 @@
 /// The principle is that of Floyd and Steinberg, "An adaptive algorithm for spatial grayscale",
 /// Proc. SID 17, 1976; about 6 % of the error is dropped at every dot.
 QMImage edf_cus(const QMImage& src, int threshold);
+
+/// The same for a page that comes in bands of rows.
+///
+/// The rows of a band are worked on at once, each some columns behind the row above it, so that
+/// every pixel has all shares of the row above before it gets the first one of its own row: the
+/// order, and with it every rounding, is that of going through the page pixel by pixel.
+class EdgeDiffusion {
+public:
+    static constexpr int rows = 8;  ///< of a band
+
+    EdgeDiffusion(int width, int height, int threshold);
+
+    /// Decides the dots of the next band from its levels; of the last band as many rows as the
+    /// page has left. Rows lie `levelStride` and `dotStride` bytes apart. Before the first row
+    /// of the dots lies the last one of the band before.
+    void diffuseBand(const unsigned char* levels, std::ptrdiff_t levelStride, unsigned char* dots,
+                     std::ptrdiff_t dotStride);
+
+private:
+    int width_;
+    int height_;
+    float threshold_;
+    int top_ = 0;                ///< row of the page in which the next band begins
+    std::vector<float> errors_;  ///< for its first row
+};

@@ -5,16 +5,9 @@
 #include <vector>
 
 #include "enhance/numeric.h"
+#include "enhance/row_filters.h"
 
 namespace {
-
-/// Offsets of a kernel's taps: from -ksize / 2 up to `last`.
-struct Taps {
-    explicit Taps(int ksize) : half(ksize / 2), last(std::min(half, ksize - 1 - half)) {}
-
-    int half;
-    int last;
-};
 
 std::size_t kernelSize(int ksize) {
     return static_cast<std::size_t>(std::max(ksize, 0));
@@ -39,45 +32,10 @@ const unsigned char* nearestRow(const QMImage& image, int y) {
     return image.data + static_cast<std::size_t>(row) * static_cast<std::size_t>(image.width);
 }
 
-// One tap for a whole row of pixels: each pixel's sum takes its taps in order, and neighbouring
-// sums do not wait for each other.
-void addTap(std::vector<double>& sums, const unsigned char* pixels, double weight) {
-    for (std::size_t x = 0; x < sums.size(); ++x) {
-        sums[x] = static_cast<double>(pixels[x]) * weight + sums[x];
-    }
-}
-
-void storeRow(const std::vector<double>& sums, unsigned char* row) {
-    std::transform(sums.begin(), sums.end(), row, toByte);
-}
-
-// A row with its edge pixels repeated on both sides.
-void extendRow(const unsigned char* row, std::size_t width, std::size_t margin,
-               std::vector<unsigned char>& extended) {
-    extended.assign(width + 2 * margin, row[0]);
-    std::copy_n(row, width, extended.begin() + static_cast<std::ptrdiff_t>(margin));
-    std::fill_n(extended.end() - static_cast<std::ptrdiff_t>(margin), margin, row[width - 1]);
-}
-
-void filterRow(const unsigned char* row, const double* kernel, Taps taps,
-               std::vector<unsigned char>& extended, std::vector<double>& sums) {
-    extendRow(row, sums.size(), static_cast<std::size_t>(taps.half), extended);
-    for (int k = -taps.half; k <= taps.last; ++k) {
-        addTap(sums, extended.data() + taps.half + k, kernel[k + taps.half]);
-    }
-}
-
-void filterColumns(const QMImage& src, int y, const double* kernel, Taps taps,
-                   std::vector<double>& sums) {
-    for (int k = -taps.half; k <= taps.last; ++k) {
-        addTap(sums, nearestRow(src, y + k), kernel[k + taps.half]);
-    }
-}
-
 }  // namespace
 
 void generateGaussianKernel1D(int ksize, double sigma, double* out) {
-    const Taps taps(ksize);
+    const FilterTaps taps(ksize);
     const float norm = my_sqrt(6.2831855F);
     for (int i = -taps.half; i <= taps.last; ++i) {
         const double e = (static_cast<double>(i * i) * -0.5) / (sigma * sigma);
@@ -89,21 +47,21 @@ void generateGaussianKernel1D(int ksize, double sigma, double* out) {
 
 QMImage convolve1D(const QMImage& src, const double* kernel, int ksize, bool horizontal) {
     QMImage result(src);
-    if (src.width <= 0) {
+    if (src.width <= 0 || src.height <= 0) {
         return result;
     }
-    const Taps taps(ksize);
     const auto width = static_cast<std::size_t>(src.width);
-    std::vector<unsigned char> extended;
-    std::vector<double> sums(width);
+    AlongRows rows(kernel, ksize, src.width);
+    AlongColumns columns(kernel, ksize, src.width, src.height, [&](int y, unsigned char* row) {
+        std::copy_n(nearestRow(src, y), width, row);
+    });
     for (int y = 0; y < src.height; ++y) {
-        std::fill(sums.begin(), sums.end(), 0.0);
+        unsigned char* out = result.data + static_cast<std::size_t>(y) * width;
         if (horizontal) {
-            filterRow(nearestRow(src, y), kernel, taps, extended, sums);
+            rows.filter(nearestRow(src, y), out);
         } else {
-            filterColumns(src, y, kernel, taps, sums);
+            columns.filter(y, out);
         }
-        storeRow(sums, result.data + static_cast<std::size_t>(y) * width);
     }
     return result;
 }
@@ -117,7 +75,7 @@ QMImage enh_gaussian_filter_fast(const QMImage& src, int ksize, double sigma) {
 
 void generateGaussianKernel(int ksize, double sigmaX, double sigmaY, double* out) {
     constexpr double twoPi = 6.283185307179586;
-    const Taps taps(ksize);
+    const FilterTaps taps(ksize);
     for (int j = -taps.half; j <= taps.last; ++j) {
         for (int i = -taps.half; i <= taps.last; ++i) {
             const double e = static_cast<double>(-(i * i)) / (sigmaX * 2.0 * sigmaX) -
@@ -134,7 +92,7 @@ QMImage enh_gaussian_filter(const QMImage& src, int ksize, double sigmaX, double
     QMImage result(src.width, src.height, QM_IMG_GRAY);
     std::vector<double> kernel(kernelSize(ksize) * kernelSize(ksize));
     generateGaussianKernel(ksize, sigmaX, sigmaY, kernel.data());
-    const Taps taps(ksize);
+    const FilterTaps taps(ksize);
     const auto sumAround = [&](int x, int y) {
         double sum = 0.0;
         for (int j = -taps.half; j <= taps.last; ++j) {

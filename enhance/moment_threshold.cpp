@@ -12,16 +12,10 @@ using Probabilities = std::array<float, 256>;
 constexpr int noPairOfLevels = 128;
 constexpr int noLevelReached = -1;
 
-Probabilities levelProbabilities(const QMImage& img) {
-    std::array<int, 256> counts{};
-    const std::size_t pixels =
-        static_cast<std::size_t>(img.width) * static_cast<std::size_t>(img.height);
-    for (std::size_t i = 0; i < pixels; ++i) {
-        ++counts[img.data[i]];
-    }
+Probabilities levelProbabilities(const LevelCounts& counts) {
     Probabilities p{};
     for (std::size_t level = 0; level < p.size(); ++level) {
-        p[level] = static_cast<float>(counts[level]) / static_cast<float>(pixels);
+        p[level] = static_cast<float>(counts.of(level)) / static_cast<float>(counts.pixels());
     }
     return p;
 }
@@ -57,8 +51,31 @@ int firstLevelAbove(const Probabilities& p, float share) {
 
 }  // namespace
 
+// Neighbours often have the same level: one that counts in another table need not wait for it.
+void LevelCounts::add(const unsigned char* row, std::size_t width) {
+    for (std::size_t x = 0; x < width; ++x) {
+        ++counts_[x % counts_.size()][row[x]];
+    }
+    pixels_ += width;
+}
+
+int LevelCounts::of(std::size_t level) const {
+    int sum = 0;
+    for (const auto& counts : counts_) {
+        sum += counts[level];
+    }
+    return sum;
+}
+
 int thresh_global_moments(const QMImage& img) {
-    const Probabilities p = levelProbabilities(img);
+    LevelCounts counts;
+    counts.add(img.data,
+               static_cast<std::size_t>(img.width) * static_cast<std::size_t>(img.height));
+    return momentThreshold(counts);
+}
+
+int momentThreshold(const LevelCounts& counts) {
+    const Probabilities p = levelProbabilities(counts);
     const Moments m = momentsOf(p);
     const float cd = m.m0 * m.m2 - m.m1 * m.m1;
     const float c0 = ((-m.m2) * m.m2 + m.m1 * m.m3) / cd;

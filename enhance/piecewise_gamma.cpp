@@ -1,6 +1,6 @@
 #include "enhance/piecewise_gamma.h"
 
-#include <array>
+#include <algorithm>
 
 #include "enhance/numeric.h"
 
@@ -25,14 +25,22 @@ unsigned char bentLevel(int level, int knee, float gammaLow, float gammaHigh) {
 
 }  // namespace
 
-void enh_piecewise_gamma(QMImage& img, int knee, float gammaLow, float gammaHigh) {
-    std::array<unsigned char, 256> table{};
+ToneTable piecewiseGamma(int knee, float gammaLow, float gammaHigh) {
+    ToneTable table{};
     for (int level = 0; level < 256; ++level) {
         table[static_cast<std::size_t>(level)] = bentLevel(level, knee, gammaLow, gammaHigh);
     }
+    return table;
+}
+
+void bendTones(const unsigned char* levels, std::size_t count, const ToneTable& table,
+               unsigned char* bent) {
+    std::transform(levels, levels + count, bent,
+                   [&table](unsigned char level) { return table[level]; });
+}
+
+void enh_piecewise_gamma(QMImage& img, int knee, float gammaLow, float gammaHigh) {
     const std::size_t pixels =
         static_cast<std::size_t>(img.width) * static_cast<std::size_t>(img.height);
-    for (std::size_t i = 0; i < pixels; ++i) {
-        img.data[i] = table[img.data[i]];
-    }
+    bendTones(img.data, pixels, piecewiseGamma(knee, gammaLow, gammaHigh), img.data);
 }

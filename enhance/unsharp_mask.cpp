@@ -1,23 +1,62 @@
 #include "enhance/unsharp_mask.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "enhance/gaussian.h"
-#include "enhance/numeric.h"
+#include "enhance/row_kernels.h"
+
+namespace {
+
+std::vector<double> blurKernel(int size) {
+    constexpr double sigma = 3.0;
+    std::vector<double> kernel(static_cast<std::size_t>(std::max(size, 0)));
+    generateGaussianKernel1D(size, sigma, kernel.data());
+    return kernel;
+}
+
+}  // namespace
 
 QMImage add_Weighted(const QMImage& a, const QMImage& b, float weight) {
     QMImage result(a);
     const std::size_t pixels =
         static_cast<std::size_t>(a.width) * static_cast<std::size_t>(a.height);
-    for (std::size_t i = 0; i < pixels; ++i) {
-        const float sum = static_cast<float>(a.data[i]) * (1.0F + weight) +
-                          static_cast<float>(b.data[i]) * (-weight) + 0.0F;
-        result.data[i] = static_cast<unsigned char>(myClamp(my_round(sum), 0, 255));
-    }
+    addWeightedRow(a.data, b.data, weight, pixels, result.data);
     return result;
 }
 
+SharpenedRows::SharpenedRows(int width, int height, float amount, int radius,
+                             AlongColumns::ReadRow readRow)
+    : readRow_(std::move(readRow)),
+      weight_(amount / 100.0F),
+      kernel_(blurKernel(radius)),
+      alongRows_(kernel_.data(), radius, width),
+      alongColumns_(kernel_.data(), radius, width, height,
+                    [this](int y, unsigned char* out) {
+                        readRow_(y, row_.data());
+                        alongRows_.filter(row_.data(), out);
+                    }),
+      row_(static_cast<std::size_t>(width)),
+      blurred_(row_.size()) {}
+
+void SharpenedRows::sharpen(int y, unsigned char* out) {
+    alongColumns_.filter(y, blurred_.data());
+    readRow_(y, row_.data());
+    addWeightedRow(row_.data(), blurred_.data(), weight_, row_.size(), out);
+}
+
 QMImage enh_unsharp_mask(const QMImage& src, float amount, int radius) {
-    constexpr double sigma = 3.0;
-    const float weight = amount / 100.0F;
-    const QMImage blurred = enh_gaussian_filter_fast(src, radius, sigma);
-    return add_Weighted(src, blurred, weight);
+    QMImage result(src);
+    if (src.width <= 0 || src.height <= 0) {
+        return result;
+    }
+    const auto width = static_cast<std::size_t>(src.width);
+    const auto offset = [width](int y) { return static_cast<std::size_t>(y) * width; };
+    SharpenedRows rows(src.width, src.height, amount, radius, [&](int y, unsigned char* row) {
+        std::copy_n(src.data + offset(y), width, row);
+    });
+    for (int y = 0; y < src.height; ++y) {
+        rows.sharpen(y, result.data + offset(y));
+    }
+    return result;
 }
