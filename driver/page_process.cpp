@@ -1,19 +1,8 @@
+#include <vector>
+
 #include "driver/kesto_printer.h"
 #include "driver/log.h"
 #include "enhance/tattoo_dithering.h"
-
-namespace {
-
-// Loaded into a new image first: when that fails, the target stays what it was.
-bool loadGrey(RasterImage& target, const unsigned char* pixels, int width, int height, int stride) {
-    RasterImage loaded;
-    return loaded.CreateFromArray(pixels, static_cast<unsigned>(width),
-                                  static_cast<unsigned>(height), 8, static_cast<unsigned>(stride),
-                                  false) &&
-           target.Transfer(loaded);
-}
-
-}  // namespace
 
 // From the grey page to the finished image, in the order of printing: load, tone, rotate,
 // mirror, halftone, invert, frame, copy out. The results of the steps behind loading are not
@@ -52,7 +41,8 @@ std::int64_t KestoPrinter::PageProcess(DitherType type, const unsigned char* src
 }
 
 bool KestoPrinter::loadPage(const unsigned char* src, int stride, int width, int height) {
-    if (!loadGrey(image_, src, width, height, stride)) {
+    if (!image_.LoadGrey(src, static_cast<unsigned>(width), static_cast<unsigned>(height),
+                         static_cast<unsigned>(stride))) {
         kestoLogCommon(kestoLogCritical, "rasterimage.CreateFromArray with grey failed!");
         return false;
     }
@@ -88,20 +78,35 @@ void KestoPrinter::halftonePage(DitherType type) {
     kestoLogCommon(kestoLogTrace, "PageProcess: Applied default dithering and increased bit depth");
 }
 
-// The output buffer serves as the packed input of the pipeline; the two images of the stencil
-// library are gone before the finished page is copied into it.
+// The result goes straight into its image: where there is no memory for that one, the image of the
+// page before stays what it was.
 bool KestoPrinter::stencilPage(int stride, int width, int height, std::span<unsigned char> out) {
     copyPixels(image_, out, width, height, stride);
     kestoLogCommon(kestoLogTrace,
                    "PageProcess: Copied pixels to the output buffer for QM dithering, with stride "
                    "%d, EffWidth %d",
                    stride, static_cast<int>(image_.GetEffWidth()));
-    const QMImage page(width, height, QM_IMG_GRAY, out.data());
-    const QMImage stencil = halftoneType_ == DitherType::Tattoo_X8 ? qmTattooDitheringX8(page)
-                                                                   : qmTattooDithering(page);
+    // Rows without gaps are taken from the image itself; one that a step without memory left empty
+    // is a blank page.
+    const std::vector<unsigned char> blankRow(static_cast<std::size_t>(width));
+    GreyRows page = {blankRow.data(), 0, width, height};
+    if (stride != width) {
+        page = {out.data(), width, width, height};
+    } else if (image_.IsValid()) {
+        page = {image_.GetBits(0), static_cast<std::ptrdiff_t>(image_.GetEffWidth()), width,
+                height};
+    }
+    const bool created =
+        ditheredImage_.ReplaceByGrey(static_cast<unsigned>(width), static_cast<unsigned>(height));
+    if (created) {
+        makeStencil(
+            page,
+            halftoneType_ == DitherType::Tattoo_X8 ? StencilType::TattooX8 : StencilType::Tattoo,
+            ditheredImage_.GetBits(0), ditheredImage_.GetEffWidth());
+    }
     kestoLogCommon(kestoLogTrace, "PageProcess: Applied QM dithering with stride %d, width %d",
-                   (stencil.width + 3) / 4 * 4, width);
-    if (!loadGrey(ditheredImage_, stencil.data, width, height, width)) {
+                   (width + 3) / 4 * 4, width);
+    if (!created) {
         kestoLogCommon(kestoLogError,
                        "PageProcess: Failed to create a new RasterImage from QM dithered data");
         return false;

@@ -1,5 +1,10 @@
+#if __has_include(<malloc.h>)
+#include <malloc.h>
+#endif
+
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 
 #include "driver/blank_lines.h"
 #include "driver/kesto_printer.h"
@@ -14,9 +19,29 @@ constexpr unsigned bottomEdge = 8;
 constexpr const char* originTemplate = "/var/spool/cups/tmp/origin_%d-%d-%d_%d_%d_%d_%ld.bmp";
 constexpr const char* ditheredTemplate = "/var/spool/cups/tmp/dithered_%d-%d-%d_%d_%d_%d_%ld.bmp";
 
-// Zeroed: a stencil page with longer rows than it is wide reads the gaps between them.
-MallocBuffer allocateZeroed(std::size_t size) {
-    return MallocBuffer(static_cast<unsigned char*>(std::calloc(size, 1)));
+// Every page takes and gives back blocks of the same few sizes. Handed back to the system, they
+// would come again as zeroed memory, which costs more than what is done on it: freed blocks are
+// kept.
+void keepFreedMemory() {
+#if defined(M_MMAP_MAX) && defined(M_TRIM_THRESHOLD)
+    mallopt(M_MMAP_MAX, 0);
+    mallopt(M_TRIM_THRESHOLD, -1);
+#endif
+}
+
+MallocBuffer allocate(std::size_t size) {
+    return MallocBuffer(static_cast<unsigned char*>(std::malloc(size)));
+}
+
+// What page processing is to have of the buffer for its result, which nobody reads. Only a page
+// whose rows are longer than it is wide goes through the buffer, and a stencil reads the gaps
+// between its rows; all other pages leave that much memory untouched.
+std::span<unsigned char> usedPart(unsigned char* buffer, std::size_t size, bool hasGaps) {
+    if (!hasGaps) {
+        return {};
+    }
+    std::memset(buffer, 0, size);
+    return {buffer, size};
 }
 
 }  // namespace
@@ -33,10 +58,11 @@ void KestoPrinter::printImage(const unsigned char* data, std::size_t bytesPerLin
 
 void KestoPrinter::printInBuffers(const unsigned char* data, std::size_t bytesPerLine,
                                   std::size_t height, std::size_t width) {
+    keepFreedMemory();
     const std::size_t size = bytesPerLine * height;
     // Nothing uses the scratch block. It is a probe: where it cannot be had, the page would
     // fail half-way.
-    MallocBuffer scratch(static_cast<unsigned char*>(std::malloc(size)));
+    MallocBuffer scratch = allocate(size);
     if (!scratch) {
         kestoLogCommon(kestoLogError,
                        "printImage: Memory allocation failed, unable to process image, "
@@ -65,7 +91,7 @@ MallocBuffer KestoPrinter::processAndPrint(const unsigned char* data, std::size_
                                            std::size_t height, std::size_t width,
                                            BlankEdges edges) {
     const std::size_t size = bytesPerLine * height;
-    MallocBuffer processed = allocateZeroed(2 * size);
+    MallocBuffer processed = allocate(2 * size);
     if (!processed) {
         kestoLogCommon(kestoLogError,
                        "printImage: Memory allocation for processing result failed, unable to "
@@ -77,7 +103,8 @@ MallocBuffer KestoPrinter::processAndPrint(const unsigned char* data, std::size_
                    "size: %zu bytes",
                    size);
     PageProcess(halftoneType_, data, static_cast<int>(bytesPerLine), static_cast<int>(width),
-                static_cast<int>(height), {processed.get(), 2 * size});
+                static_cast<int>(height),
+                usedPart(processed.get(), 2 * size, bytesPerLine > width));
     logProcessedPage(processed.get(), bytesPerLine, height, width, edges);
     dumpFinishedImage();
     printFinishedImage();

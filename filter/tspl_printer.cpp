@@ -1,23 +1,26 @@
 #include "filter/tspl_printer.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "filter/cancellation.h"
 #include "filter/tspl_page_commands.h"
+#include "image/byte_words.h"
 
 namespace {
 
-void sendPackedRow(KestoPrinter& printer, const unsigned char* pixels, std::int32_t width) {
-    unsigned packed = 0;
-    for (std::int32_t c = 0; c < width; ++c) {
-        packed |= pixels[c] == 0 ? 0x80U >> (c % 8) : 0;
-        if (c % 8 == 7) {
-            printer.printByte(static_cast<unsigned char>(packed));
-            packed = 0;
-        }
+// A pixel of 0 is a set bit, and so is every bit behind the last pixel.
+void sendPackedRow(KestoPrinter& printer, const unsigned char* pixels, std::size_t width) {
+    for (; width >= ByteBlock::bytes; width -= ByteBlock::bytes, pixels += ByteBlock::bytes) {
+        const unsigned dots = packedMarks(isZero(loadBlock(pixels)));
+        printer.printByte(static_cast<unsigned char>(dots));
+        printer.printByte(static_cast<unsigned char>(dots >> 8));
     }
-    if (width % 8 != 0) {
-        printer.printByte(static_cast<unsigned char>(packed | 0xFFU >> (width % 8)));
+    while (width != 0) {
+        const std::size_t part = std::min<std::size_t>(width, 8);
+        printer.printByte(packedTopBits(isZero(loadPartOfWord(pixels, part))));
+        pixels += part;
+        width -= part;
     }
 }
 
@@ -28,11 +31,10 @@ void TsplPrinter::doPrintImage(const unsigned char* pixels, std::size_t /*bytesP
     if (isCancelled()) {
         return;
     }
-    const auto columns = static_cast<std::int32_t>(width);
     const auto rows = static_cast<std::int32_t>(height);
     setBitmapCmdHead(0, 0, static_cast<int>((width + 7) / 8), rows, 0);
     for (std::int32_t row = 0; row < rows; ++row) {
-        sendPackedRow(*this, pixels, columns);
+        sendPackedRow(*this, pixels, width);
         pixels += width;
     }
     printStr("\r\n");

@@ -115,8 +115,9 @@ private:
         }
     }
 
+    // Inlined, like all that it calls: the state stays in registers.
     template <bool inner>
-    void diffuseBlock(State& state, std::ptrdiff_t time) const {
+    [[gnu::always_inline]] void diffuseBlock(State& state, std::ptrdiff_t time) const {
         diffuseColumns<inner>(state, time, incomingColumns<inner>(time),
                               std::make_integer_sequence<int, columns>());
         storeDots<inner>(state, time);
@@ -193,6 +194,16 @@ private:
         }
     }
 
+    template <std::size_t size>
+    [[gnu::always_inline]] static void enter(std::array<Lanes, size>& window, Lanes last) {
+        moveDown(window, std::make_index_sequence<size - 1>());
+        window.back() = last;
+    }
+    template <typename Window, std::size_t... i>
+    [[gnu::always_inline]] static void moveDown(Window& window, std::index_sequence<i...>) {
+        ((window[i] = window[i + 1]), ...);
+    }
+
     // All windows one column to the right: the levels that leave them on the left enter the
     // windows of the next lane.
     template <bool inner>
@@ -203,10 +214,6 @@ private:
             leaving[k] = state.below[k].front();
             storeLeaving<inner>(leaving[k], time, static_cast<std::ptrdiff_t>(k));
         }
-        const auto enter = [&](auto& window, Lanes last) {
-            std::copy(window.begin() + 1, window.end(), window.begin());
-            window.back() = last;
-        };
         enter(state.own, handedDown<inner>(leaving[0], time, 0));
         for (std::size_t k = 0; k + 1 < depth; ++k) {
             enter(state.below[k],

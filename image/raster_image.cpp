@@ -48,14 +48,19 @@ bool isRepresentable(std::uint32_t width, std::uint32_t height, std::uint32_t bp
 
 void* RasterImage::Create(std::uint32_t width, std::uint32_t height, std::uint32_t bpp,
                           std::uint32_t type) {
+    return create(width, height, bpp, type, Rows::Zeroed) ? dib.get() : nullptr;
+}
+
+bool RasterImage::create(std::uint32_t width, std::uint32_t height, std::uint32_t bpp,
+                         std::uint32_t type, Rows rows) {
     Destroy();
     const std::uint32_t depth = roundUpDepth(bpp);
     if (!checkSize(width, height, depth)) {
-        return nullptr;
+        return false;
     }
     info.type = type;
     fillHeader(width, height, depth);
-    return allocate() ? dib.get() : nullptr;
+    return allocate(rows);
 }
 
 bool RasterImage::checkSize(std::uint32_t width, std::uint32_t height, std::uint32_t bpp) {
@@ -86,17 +91,56 @@ void RasterImage::fillHeader(std::uint32_t width, std::uint32_t height, std::uin
     header.biClrUsed = paletteEntries(bpp);
 }
 
-// Zeroed memory defines the padding at the end of each row, so that a job gives the same
-// bytes on every run.
-bool RasterImage::allocate() {
-    dib.reset(static_cast<unsigned char*>(std::calloc(GetSize(), 1)));
+// Zeros define the padding at the end of each row, so that a job gives the same bytes on every
+// run.
+bool RasterImage::allocate(Rows rows) {
+    const std::size_t size = GetSize();
+    useBlock(MallocBuffer(static_cast<unsigned char*>(rows == Rows::Zeroed ? std::calloc(size, 1)
+                                                                           : std::malloc(size))));
     if (!dib) {
         setLastError("RasterImage::Create can't allocate memory");
         return false;
     }
-    std::memcpy(dib.get(), &header, sizeof header);
-    info.bits = dib.get() + header.biSize + GetPaletteSize();
+    if (rows == Rows::Written) {
+        std::memset(dib.get() + header.biSize, 0, GetPaletteSize());
+        clearRowEnds();
+    }
     return true;
+}
+
+void RasterImage::useBlock(MallocBuffer block) {
+    dib = std::move(block);
+    if (dib) {
+        std::memcpy(dib.get(), &header, sizeof header);
+        info.bits = dib.get() + header.biSize + GetPaletteSize();
+    }
+}
+
+// The last four bytes of each row, wherever its pixels end in them.
+void RasterImage::clearRowEnds() {
+    if (info.effWidth * 8 ==
+        std::uint32_t{header.biBitCount} * static_cast<std::uint32_t>(header.biWidth)) {
+        return;
+    }
+    for (std::int64_t y = 1; y <= header.biHeight; ++y) {
+        std::memset(rowAt(y) - 4, 0, 4);
+    }
+}
+
+// The block of the former image is used on when it has the right size. The new one goes back
+// without having been filled: the system need not even find memory for it.
+bool RasterImage::ReplaceByGrey(std::uint32_t width, std::uint32_t height) {
+    constexpr std::uint32_t greyDepth = 8;
+    RasterImage result;
+    if (!result.create(width, height, greyDepth, 0, Rows::Written)) {
+        return false;
+    }
+    if (dib && GetSize() == result.GetSize()) {
+        result.useBlock(std::move(dib));
+        result.clearRowEnds();
+    }
+    result.SetGrayPalette();
+    return Transfer(result);
 }
 
 bool RasterImage::Destroy() {
@@ -118,9 +162,9 @@ void RasterImage::CopyInfo(const RasterImage& src) {
 }
 
 void RasterImage::createLike(const RasterImage& source, std::uint32_t width, std::uint32_t height,
-                             std::uint32_t bpp) {
+                             std::uint32_t bpp, Rows rows) {
     CopyInfo(source);
-    Create(width, height, bpp, source.info.type);
+    create(width, height, bpp, source.info.type, rows);
     SetPalette(source.GetPalette(), source.GetNumColors());
 }
 

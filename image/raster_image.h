@@ -52,6 +52,13 @@ public:
     bool CreateFromArray(const std::uint8_t* array, std::uint32_t width, std::uint32_t height,
                          std::uint32_t bpp, std::uint32_t bytesPerLine, bool flip);
 
+    /// Makes an image of 8 bits with a grey palette and undefined pixels, zeros behind each row.
+    /// When it cannot be had, the former image stays what it was.
+    bool ReplaceByGrey(std::uint32_t width, std::uint32_t height);
+    /// The same, filled from `height` rows of bytes as `CreateFromArray` does it.
+    bool LoadGrey(const std::uint8_t* array, std::uint32_t width, std::uint32_t height,
+                  std::uint32_t bytesPerLine);
+
     bool IsValid() const { return dib != nullptr; }
     const char* GetLastError() const { return info.lastError; }
     /// Start of a pixel row; null without a block or beyond the last row.
@@ -148,9 +155,18 @@ private:
     void setLastError(const char* text);
     bool checkSize(std::uint32_t width, std::uint32_t height, std::uint32_t bpp);
     void fillHeader(std::uint32_t width, std::uint32_t height, std::uint32_t bpp);
-    bool allocate();
+    /// What becomes of the pixels of a new image: nothing but zeros, or zeros behind the pixels
+    /// of each row only, when every pixel is written anyway.
+    enum class Rows { Zeroed, Written };
+    bool create(std::uint32_t width, std::uint32_t height, std::uint32_t bpp, std::uint32_t type,
+                Rows rows);
+    bool allocate(Rows rows);
+    void clearRowEnds();
+    void useBlock(MallocBuffer block);
+    void copyRows(const std::uint8_t* array, std::uint32_t bytesPerLine, bool flip);
+    void mirrorBytesInto(RasterImage& target) const;
     void createLike(const RasterImage& source, std::uint32_t width, std::uint32_t height,
-                    std::uint32_t bpp);
+                    std::uint32_t bpp, Rows rows = Rows::Zeroed);
 
     BitmapInfoHeader header;
     RasterImageInfo info;

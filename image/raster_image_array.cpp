@@ -22,19 +22,38 @@ void copyDroppingFourthByte(const std::uint8_t* source, std::uint8_t* target, st
 bool RasterImage::CreateFromArray(const std::uint8_t* array, std::uint32_t width,
                                   std::uint32_t height, std::uint32_t bpp,
                                   std::uint32_t bytesPerLine, bool flip) {
-    if (array == nullptr || !isArrayDepth(bpp) || Create(width, height, bpp, 0) == nullptr) {
+    // Packed rows fill all rows of the image but for their last bytes; others may not.
+    const bool packed = bpp == 8 && bytesPerLine >= width;
+    if (array == nullptr || !isArrayDepth(bpp) ||
+        !create(width, height, bpp, 0, packed ? Rows::Written : Rows::Zeroed)) {
         return false;
     }
     SetGrayPalette();
-    const std::size_t rowBytes = std::min(info.effWidth, bytesPerLine);
+    if (bpp != 32) {
+        copyRows(array, bytesPerLine, flip);
+        return true;
+    }
     for (std::uint32_t y = 0; y < height; ++y) {
-        const std::uint8_t* source = array + std::size_t{y} * bytesPerLine;
-        std::uint8_t* target = rowAt(flip ? height - 1 - y : y);
-        if (bpp == 32) {
-            copyDroppingFourthByte(source, target, width);
-        } else {
-            std::memcpy(target, source, rowBytes);
-        }
+        copyDroppingFourthByte(array + std::size_t{y} * bytesPerLine,
+                               rowAt(flip ? height - 1 - y : y), width);
     }
     return true;
+}
+
+bool RasterImage::LoadGrey(const std::uint8_t* array, std::uint32_t width, std::uint32_t height,
+                           std::uint32_t bytesPerLine) {
+    if (array == nullptr || !ReplaceByGrey(width, height)) {
+        return false;
+    }
+    copyRows(array, bytesPerLine, false);
+    return true;
+}
+
+void RasterImage::copyRows(const std::uint8_t* array, std::uint32_t bytesPerLine, bool flip) {
+    const std::size_t rowBytes = std::min(info.effWidth, bytesPerLine);
+    const std::int64_t height = header.biHeight;
+    for (std::int64_t y = 0; y < height; ++y) {
+        std::memcpy(rowAt(flip ? height - 1 - y : y), array, rowBytes);
+        array += bytesPerLine;
+    }
 }

@@ -1,74 +1,106 @@
 #include "image/threshold_matrix.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
+#include "image/byte_words.h"
 #include "image/raster_image.h"
 
 namespace {
 
-constexpr std::int32_t orderedMatrix[4][4] = {
+/// The lowest white level of every pixel, by row y mod 4 and column x mod 4.
+using LowestWhite = std::array<std::array<std::uint8_t, 4>, 4>;
+
+constexpr int orderedMatrix[4][4] = {
     {0, 8, 2, 10},
     {12, 4, 14, 6},
     {3, 11, 1, 9},
     {15, 7, 13, 5},
 };
 
-constexpr std::uint8_t outputLevels[] = {0, 1};
-
 constexpr int bayerOrder = 4;
 
 // The bits of row ^ column and of column, interleaved from the lowest up.
-constexpr std::uint8_t bayerThreshold(unsigned row, unsigned column) {
+constexpr int bayerThreshold(unsigned row, unsigned column) {
     unsigned value = 0;
     for (int bit = 0; bit < bayerOrder; ++bit) {
         value = (value * 2 | ((row ^ column) & 1)) * 2 | (column & 1);
         row >>= 1;
         column >>= 1;
     }
-    return static_cast<std::uint8_t>(value);
+    return static_cast<int>(value);
 }
 
-// Pages look only at the first 16 entries: column x mod 4 of row y mod 4.
-constexpr std::array<std::uint8_t, 256> makeBayerMatrix() {
-    std::array<std::uint8_t, 256> matrix{};
-    for (unsigned i = 0; i < matrix.size(); ++i) {
-        matrix[i] = bayerThreshold(i / bayerOrder, i % bayerOrder);
+template <typename Level>
+constexpr LowestWhite lowestWhite(Level level) {
+    LowestWhite result{};
+    for (unsigned y = 0; y < 4; ++y) {
+        for (unsigned x = 0; x < 4; ++x) {
+            result[y][x] = static_cast<std::uint8_t>(level(y, x));
+        }
     }
-    return matrix;
+    return result;
 }
 
-template <typename Decide>
-void decideEachPixel(const RasterImage& source, RasterImage& target, Decide decide) {
+constexpr LowestWhite fixedLevels = lowestWhite([](unsigned, unsigned) { return 129; });
+
+// White where level × 16 ÷ 255, cut off, is above the matrix.
+constexpr LowestWhite orderedLevels =
+    lowestWhite([](unsigned y, unsigned x) { return ((orderedMatrix[y][x] + 1) * 255 + 15) / 16; });
+
+constexpr LowestWhite bayerLevels =
+    lowestWhite([](unsigned y, unsigned x) { return bayerThreshold(y, x) + 1; });
+
+void thresholdByPixel(const RasterImage& source, RasterImage& target, const LowestWhite& limits) {
     for (std::int64_t y = 0; y < source.GetHeight(); ++y) {
         for (std::int64_t x = 0; x < source.GetWidth(); ++x) {
-            target.BlindSetPixelIndex(x, y, decide(x, y, source.BlindGetPixelIndex(x, y)));
+            const bool white = source.BlindGetPixelIndex(x, y) >= limits[y & 3][x & 3];
+            target.BlindSetPixelIndex(x, y, white ? 1 : 0);
         }
+    }
+}
+
+// One row of bytes. As no limit is 0, what is missing of the last eight pixels stays black.
+void thresholdRow(const std::uint8_t* levels, std::size_t width,
+                  const std::array<std::uint8_t, 4>& rowLimits, std::uint8_t* dots) {
+    const ByteWord four = loadPartOfWord(rowLimits.data(), 4);
+    const ByteWord limits = four << 32 | four;
+    const ByteBlock blockLimits = repeatedWord(limits);
+    for (; width >= ByteBlock::bytes; width -= ByteBlock::bytes, levels += ByteBlock::bytes) {
+        const unsigned marks = packedMarks(isAtLeast(loadBlock(levels), blockLimits));
+        *dots++ = static_cast<std::uint8_t>(marks);
+        *dots++ = static_cast<std::uint8_t>(marks >> 8);
+    }
+    while (width != 0) {
+        const std::size_t part = std::min<std::size_t>(width, 8);
+        *dots++ = packedTopBits(isAtLeast(loadPartOfWord(levels, part), limits));
+        levels += part;
+        width -= part;
+    }
+}
+
+void thresholdBy(const RasterImage& source, RasterImage& target, const LowestWhite& limits) {
+    if (source.GetHeader().biBitCount != 8) {
+        return thresholdByPixel(source, target, limits);
+    }
+    const auto height = static_cast<std::uint32_t>(source.GetHeight());
+    for (std::uint32_t y = 0; y < height; ++y) {
+        thresholdRow(source.GetBits(y), static_cast<std::size_t>(source.GetWidth()), limits[y & 3],
+                     target.GetBits(y));
     }
 }
 
 }  // namespace
 
 void thresholdFixed(const RasterImage& source, RasterImage& target) {
-    decideEachPixel(source, target, [](std::int64_t, std::int64_t, int level) -> std::uint8_t {
-        return level <= 128 ? 0 : 255;
-    });
+    thresholdBy(source, target, fixedLevels);
 }
 
 void thresholdOrdered(const RasterImage& source, RasterImage& target) {
-    decideEachPixel(source, target, [](std::int64_t x, std::int64_t y, int level) {
-        const int scaled = level * 16 / 255;
-        const bool above = orderedMatrix[y & 3][x & 3] < scaled % 16;
-        return outputLevels[scaled / 16 + (above ? 1 : 0)];
-    });
+    thresholdBy(source, target, orderedLevels);
 }
 
 void thresholdBayer(const RasterImage& source, RasterImage& target) {
-    constexpr std::array<std::uint8_t, 256> matrix = makeBayerMatrix();
-    decideEachPixel(
-        source, target, [&matrix](std::int64_t x, std::int64_t y, int level) -> std::uint8_t {
-            const auto cell =
-                static_cast<std::size_t>(x % bayerOrder + bayerOrder * (y % bayerOrder));
-            return level > matrix[cell] ? 1 : 0;
-        });
+    thresholdBy(source, target, bayerLevels);
 }

@@ -14,6 +14,10 @@ std::uint8_t lightLevel(int level, float offset, float slope) {
     return static_cast<std::uint8_t>(std::clamp(value, 0.0F, 255.0F));
 }
 
+void replaceBytes(std::uint8_t* row, std::size_t width, const std::uint8_t* table) {
+    std::transform(row, row + width, row, [table](std::uint8_t index) { return table[index]; });
+}
+
 }  // namespace
 
 bool RasterImage::Light(int brightness, int contrast) {
@@ -35,6 +39,10 @@ bool RasterImage::Lut(const std::uint8_t* table) {
         return false;
     }
     for (std::int64_t y = 0; y < header.biHeight; ++y) {
+        if (header.biBitCount == 8) {
+            replaceBytes(rowAt(y), static_cast<std::size_t>(header.biWidth), table);
+            continue;
+        }
         for (std::int64_t x = 0; x < header.biWidth; ++x) {
             BlindSetPixelIndex(x, y, table[BlindGetPixelIndex(x, y)]);
         }
