@@ -127,6 +127,29 @@ TEST(EdfCus, IsThatOfTheReferenceAtEveryWidthAndThreshold) {
     }
 }
 
+// Rows are worked on eight at a time, and the first and last columns apart from those between.
+TEST(EdfCus, OfSomeRowsMoreOrLessThanWholeBandsIsThatOfTheReference) {
+    for (const int height : {7, 8, 9, 15, 16, 17, 24, 25, 26, 33}) {
+        for (const int width : {1, 2, 3, 8, 40, 49, 50, 51, 57, 58, 64, 129}) {
+            const auto seed = static_cast<std::uint32_t>(width + 100 * height);
+            const GreyPage page = stencil_pages::photographPage(width, height, seed);
+            EXPECT_EQ(bytesOf(edf_cus(imageOf(page), 120)),
+                      reference::diffuseStencil(static_cast<std::size_t>(width),
+                                                static_cast<std::size_t>(height), page.levels, 120))
+                << width << " x " << height;
+        }
+    }
+}
+
+TEST(EdfCus, OfLargePagesIsThatOfTheReference) {
+    const GreyPage noise = stencil_pages::noisePage(1003, 131, 5);
+    EXPECT_TRUE(bytesOf(edf_cus(imageOf(noise), 128)) ==
+                reference::diffuseStencil(1003, 131, noise.levels, 128));
+    const GreyPage lines = stencil_pages::lineArtPage(812, 203, 6);
+    EXPECT_TRUE(bytesOf(edf_cus(imageOf(lines), 90)) ==
+                reference::diffuseStencil(812, 203, lines.levels, 90));
+}
+
 TEST(EdfCus, OfFlatGreyIsThatOfTheReference) {
     for (int level = 0; level < 256; ++level) {
         const GreyPage page = stencil_pages::uniformPage(61, 23, level);

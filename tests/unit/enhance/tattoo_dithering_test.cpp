@@ -9,6 +9,7 @@
 #include "enhance/moment_threshold.h"
 #include "enhance/piecewise_gamma.h"
 #include "enhance/unsharp_mask.h"
+#include "tests/reference/stencil.h"
 #include "tests/unit/enhance/stencil_pages.h"
 
 namespace {
@@ -142,5 +143,21 @@ TEST_P(Stencil, OfBlackIsBlackAndOfWhiteWhite) {
 
 INSTANTIATE_TEST_SUITE_P(Types, Stencil, testing::Values(qmTattooDithering, qmTattooDitheringX8),
                          [](const auto& type) { return type.index == 0 ? "Tattoo" : "TattooX8"; });
+
+// Rows of 40 pixels, 44 bytes apart, give rows of 40 dots, 48 bytes apart.
+TEST(MakeStencil, ReadsAndWritesRowsAsFarApartAsItIsTold) {
+    const stencil_pages::GreyPage page = stencil_pages::photographPage(44, 21, 3);
+    stencil_pages::Bytes packed;
+    for (std::size_t y = 0; y < 21; ++y) {
+        const auto row = page.levels.begin() + static_cast<std::ptrdiff_t>(44 * y);
+        packed.insert(packed.end(), row, row + 40);
+    }
+    stencil_pages::Bytes dots(48 * 21, 77);
+    makeStencil({page.levels.data(), 44, 40, 21}, StencilType::TattooX8, dots.data(), 48);
+    const stencil_pages::Bytes expected = reference::stencil(40, 21, packed, true);
+    for (std::size_t i = 0; i < dots.size(); ++i) {
+        EXPECT_EQ(dots[i], i % 48 < 40 ? expected[i / 48 * 40 + i % 48] : 77) << i;
+    }
+}
 
 }  // namespace

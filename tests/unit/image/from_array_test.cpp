@@ -131,4 +131,50 @@ TEST(CreateFromArray, FailsWithTheTextsOfCreate) {
     EXPECT_FALSE(image.IsValid());
 }
 
+TEST(LoadGrey, IsThatOfCreateFromArrayAtAllWidthsAndDistances) {
+    const reference::Bytes array = noise(200 * 3, 1);
+    RasterImage image;
+    for (std::uint32_t width = 1; width <= 130; ++width) {
+        for (const std::uint32_t distance : {width, width + 1, width + 5}) {
+            RasterImage expected;
+            expected.CreateFromArray(array.data(), width, 3, 8, distance, false);
+            // Once over the image before, once over one of the same size.
+            for (int time = 0; time < 2; ++time) {
+                ASSERT_TRUE(image.LoadGrey(array.data(), width, 3, distance));
+                EXPECT_EQ(rowsOf(image), rowsOf(expected)) << width << ", " << distance;
+                EXPECT_EQ(paletteOf(image), paletteOf(expected));
+            }
+        }
+    }
+}
+
+TEST(LoadGrey, LeavesTheFormerImageWhenThereIsNoMemory) {
+    const reference::Bytes former = {1, 2, 3, 4};
+    RasterImage image;
+    image.LoadGrey(former.data(), 4, 1, 4);
+    {
+        const NoMemory none;
+        EXPECT_FALSE(image.LoadGrey(former.data(), 2, 2, 2));
+        EXPECT_FALSE(image.LoadGrey(former.data(), 4, 1, 4));
+    }
+    EXPECT_EQ(rowsOf(image), former);
+    EXPECT_EQ(image.GetWidth(), 4);
+    EXPECT_FALSE(image.LoadGrey(former.data(), 0, 1, 4));
+    EXPECT_FALSE(image.LoadGrey(nullptr, 4, 1, 4));
+    EXPECT_EQ(rowsOf(image), former);
+}
+
+TEST(LoadGrey, KeepsOneBlock) {
+    const std::ptrdiff_t blocks = liveBlocks();
+    const reference::Bytes page = noise(64, 1);
+    {
+        RasterImage image;
+        for (const std::uint32_t width : {8U, 8U, 4U, 8U}) {
+            image.LoadGrey(page.data(), width, 8, width);
+            EXPECT_EQ(liveBlocks(), blocks + 1);
+        }
+    }
+    EXPECT_EQ(liveBlocks(), blocks);
+}
+
 }  // namespace
