@@ -77,17 +77,22 @@ private:
     [[gnu::always_inline]] void diffuseBlock(State& state, int time) const {
         const std::array<FloatLanes, columns> levels = loadLevels<inner>(time);
         std::array<MaskLanes, columns> white;
-        diffuseColumns<inner>(state, time, levels, white,
-                              std::make_integer_sequence<int, columns>());
+        if constexpr (inner) {
+            diffuseInnerColumns(state, time, levels, white, std::make_index_sequence<columns>());
+        } else {
+            for (std::size_t i = 0; i < columns; ++i) {
+                white[i] = diffuseColumn<false>(state, time + static_cast<int>(i), levels[i]);
+            }
+        }
         storeDots<inner>(white, time);
     }
 
-    template <bool inner, int... column>
-    [[gnu::always_inline]] void diffuseColumns(State& state, int time,
-                                               const std::array<FloatLanes, columns>& levels,
-                                               std::array<MaskLanes, columns>& white,
-                                               std::integer_sequence<int, column...>) const {
-        ((white[column] = diffuseColumn<inner>(state, time + column, levels[column])), ...);
+    template <std::size_t... i>
+    [[gnu::always_inline]] void diffuseInnerColumns(State& state, int time,
+                                                    const std::array<FloatLanes, columns>& levels,
+                                                    std::array<MaskLanes, columns>& white,
+                                                    std::index_sequence<i...>) const {
+        ((white[i] = diffuseColumn<true>(state, time + static_cast<int>(i), levels[i])), ...);
     }
 
     // Returns the white dots.

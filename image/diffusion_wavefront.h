@@ -118,8 +118,14 @@ private:
     // Inlined, like all that it calls: the state stays in registers.
     template <bool inner>
     [[gnu::always_inline]] void diffuseBlock(State& state, std::ptrdiff_t time) const {
-        diffuseColumns<inner>(state, time, incomingColumns<inner>(time),
-                              std::make_integer_sequence<int, columns>());
+        const std::array<Lanes, columns> entering = incomingColumns<inner>(time);
+        if constexpr (inner) {
+            diffuseInnerColumns(state, time, entering, std::make_index_sequence<columns>());
+        } else {
+            for (std::size_t i = 0; i < columns; ++i) {
+                diffuseColumn<false>(state, time + static_cast<std::ptrdiff_t>(i), entering[i]);
+            }
+        }
         storeDots<inner>(state, time);
     }
 
@@ -150,11 +156,11 @@ private:
         return inner || levels_.contains(x, y) ? *levels_.at(x, y) : std::uint8_t{0};
     }
 
-    template <bool inner, int... column>
-    [[gnu::always_inline]] void diffuseColumns(State& state, std::ptrdiff_t time,
-                                               const std::array<Lanes, columns>& entering,
-                                               std::integer_sequence<int, column...>) const {
-        (diffuseColumn<inner>(state, time + column, entering[column]), ...);
+    template <std::size_t... i>
+    [[gnu::always_inline]] void diffuseInnerColumns(State& state, std::ptrdiff_t time,
+                                                    const std::array<Lanes, columns>& entering,
+                                                    std::index_sequence<i...>) const {
+        (diffuseColumn<true>(state, time + static_cast<std::ptrdiff_t>(i), entering[i]), ...);
     }
 
     template <bool inner>
