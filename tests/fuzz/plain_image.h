@@ -57,7 +57,8 @@ struct PlainImage {
     /// The index of a pixel inside; colours have none.
     std::uint8_t index(std::size_t x, std::size_t y) const {
         return depth > 8 ? std::uint8_t{0}
-                         : static_cast<std::uint8_t>(bytes[placeOf(x, y)] >> shiftOf(x) & mask());
+                         : static_cast<std::uint8_t>(unsigned{bytes[placeOf(x, y)]} >> shiftOf(x) &
+                                                     mask());
     }
 
     void setIndex(std::int64_t column, std::int64_t row, std::uint8_t value) {
