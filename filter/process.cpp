@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -23,6 +24,15 @@ void occupyStandardStreams() {
     }
 }
 
+// A line of the log is one write, so that lines of the filters of a job stay whole, and the dots of
+// a page go out in few: as many bytes at a time as a pipe takes.
+void bufferStandardStreams() {
+    static std::array<char, 1U << 12U> logLine;
+    static std::array<char, 1U << 16U> output;
+    std::setvbuf(stderr, logLine.data(), _IOLBF, logLine.size());
+    std::setvbuf(stdout, output.data(), _IOFBF, output.size());
+}
+
 // Nothing of the filter throws but an allocation of the C++ library, and nothing catches it.
 // Buffers hold whole commands then: halftoning, which allocates, is over when a bitmap begins.
 [[noreturn]] void endWithoutMemory() {
@@ -35,6 +45,7 @@ void occupyStandardStreams() {
 
 void prepareProcess() {
     occupyStandardStreams();
+    bufferStandardStreams();
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
     std::set_terminate(endWithoutMemory);

@@ -3,11 +3,14 @@
 
 #include <fcntl.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <exception>
 
+#include "driver/log.h"
 #include "tests/support/child_process.h"
 #include "tests/unit/filter/test_support.h"
 
@@ -18,6 +21,12 @@ constexpr int broken = 1;
 
 int verdict(bool holds) {
     return holds ? held : broken;
+}
+
+std::string nextWrite(int socket) {
+    char bytes[256];
+    const ssize_t length = recv(socket, bytes, sizeof bytes, MSG_DONTWAIT);
+    return {bytes, static_cast<std::size_t>(std::max<ssize_t>(length, 0))};
 }
 
 TEST(PreparedProcess, SurvivesWritingWhereNobodyReads) {
@@ -81,6 +90,24 @@ TEST(PreparedProcess, LeavesOpenStandardStreamsAlone) {
                   return verdict(read(0, &byte, 1) == 1 && byte == 'x');
               }),
               held);
+}
+
+// A socket of datagrams keeps writes apart.
+TEST(PreparedProcess, WritesEachLineOfTheLogAtOnce) {
+    int ends[2];
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_DGRAM, 0, ends), 0);
+    EXPECT_EQ(endOfChild([&ends] {
+                  dup2(ends[1], STDERR_FILENO);
+                  prepareProcess();
+                  kestoLogCommon(kestoLogTrace, "first %d", 1);
+                  kestoLogCommon(kestoLogError, "second %s", "line");
+                  return held;
+              }),
+              held);
+    close(ends[1]);
+    EXPECT_EQ(nextWrite(ends[0]), "DEBUG:first 1\n");
+    EXPECT_EQ(nextWrite(ends[0]), "ERROR:second line\n");
+    close(ends[0]);
 }
 
 // As an allocation that fails and that nothing catches has it.
