@@ -8,6 +8,8 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <iterator>
+#include <sstream>
 #include <stdexcept>
 
 #include "tests/system/memory_file.h"
@@ -59,10 +61,26 @@ void setLimits(const FilterCall& call) {
     }
 }
 
+// A program that runs the filter and looks on, for example valgrind, with its options.
+std::vector<std::string> supervisor() {
+    const char* words = std::getenv("KESTO_FILTER_SUPERVISOR");
+    std::istringstream rest(words == nullptr ? "" : words);
+    return {std::istream_iterator<std::string>(rest), {}};
+}
+
+// The program and its arguments.
+std::vector<std::string> commandOf(const FilterCall& call) {
+    std::vector<std::string> command = supervisor();
+    command.push_back(call.program);
+    command.insert(command.end(), call.arguments.begin(), call.arguments.end());
+    return command;
+}
+
 [[noreturn]] void becomeFilter(const FilterCall& call, const Streams& streams) {
+    const std::vector<std::string> command = commandOf(call);
     // The program is opened here because an ordinary user may not reach the build folder. It
     // keeps clear of the numbers of the standard streams.
-    const int opened = open(call.program.c_str(), O_RDONLY | O_CLOEXEC);
+    const int opened = open(command[0].c_str(), O_RDONLY | O_CLOEXEC);
     const int program = fcntl(opened, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
     require(program != -1);
     connect(STDIN_FILENO, streams.input);
@@ -72,8 +90,8 @@ void setLimits(const FilterCall& call) {
     for (const auto& [name, value] : call.environment) {
         setenv(name.c_str(), value.c_str(), 1);
     }
-    std::vector<char*> arguments = {const_cast<char*>(call.program.c_str())};
-    for (const std::string& argument : call.arguments) {
+    std::vector<char*> arguments;
+    for (const std::string& argument : command) {
         arguments.push_back(const_cast<char*>(argument.c_str()));
     }
     arguments.push_back(nullptr);
