@@ -2,6 +2,7 @@
 
 #include "tests/preview/dot_picture.h"
 #include "tests/preview/preview_run.h"
+#include "tests/support/sanitizers.h"
 
 namespace {
 
@@ -46,7 +47,7 @@ TEST(LabelSize, AHugeLabelIsRefusedAndTheNextOneIsDrawn) {
         previewCall(folder, {},
                     "SIZE 5000 mm,5000 mm\r\nCLS\r\nBAR 0,0,9,9\r\nBITMAP 0,0,2,8,0," +
                         letterBitmap + "\r\nPRINT 1\r\n" + smallLabel(letterBitmap));
-#if !defined(__SANITIZE_ADDRESS__)
+#ifndef KESTO_ADDRESS_SANITIZER
     call.addressSpace = std::size_t{64} << 20;
 #endif
     const FilterResult result = runFilter(call);
@@ -85,7 +86,7 @@ TEST(LabelSize, BitmapsOfAbsurdSizesAndPlacesAreComplainedOf) {
     }
 }
 
-#if !defined(__SANITIZE_ADDRESS__)
+#ifndef KESTO_ADDRESS_SANITIZER
 
 // 32768 × 32768 dots are the largest label, 128 MiB.
 TEST(LabelSize, ALabelThatFindsNoMemoryEndsWithAMessage) {

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "tests/preview/preview_run.h"
+#include "tests/support/sanitizers.h"
 
 namespace {
 
-// The address sanitizer maps far more memory than the limit.
-#if !defined(__SANITIZE_ADDRESS__)
+#ifndef KESTO_ADDRESS_SANITIZER
 
 // Eight bitmaps to the label, as drawing takes less time than looking at each label's dots.
 std::string megabyteOfLabels() {

@@ -4,6 +4,7 @@
 
 #include "tests/reference/job.h"
 #include "tests/reference/text.h"
+#include "tests/support/sanitizers.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/system/filter_process.h"
 #include "tests/system/spool_files.h"
@@ -43,7 +44,7 @@ reference::Lines complaintsIn(const std::string& log);
 uid_t ordinaryUser();
 
 /// Fewer cases where every process takes many times as long.
-#if defined(__SANITIZE_ADDRESS__)
+#ifdef KESTO_ADDRESS_SANITIZER
 inline constexpr std::size_t faultStride = 8;
 #else
 inline constexpr std::size_t faultStride = 1;

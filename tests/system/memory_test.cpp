@@ -4,13 +4,13 @@
 #include <cstddef>
 
 #include "tests/reference/trace.h"
+#include "tests/support/sanitizers.h"
 #include "tests/system/comparison.h"
 #include "tests/system/test_job.h"
 
 namespace {
 
-// The address sanitizer maps far more memory than any limit that a page could exceed.
-#if !defined(__SANITIZE_ADDRESS__)
+#ifndef KESTO_ADDRESS_SANITIZER
 
 TEST(Memory, APageThatFindsNoMemoryEndsTheJobWithoutAMessageBehindItsTrace) {
     constexpr unsigned side = 20000;

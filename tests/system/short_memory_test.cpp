@@ -4,14 +4,14 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/sanitizers.h"
 #include "tests/system/fault_job.h"
 #include "tests/system/stream_ends.h"
 #include "tests/system/test_job.h"
 
 namespace {
 
-// The address sanitizer maps far more memory than any limit that a page could exceed.
-#if !defined(__SANITIZE_ADDRESS__)
+#ifndef KESTO_ADDRESS_SANITIZER
 
 constexpr std::size_t kibibyte = 1024;
 constexpr int notLoaded = 127;  // what the loader says of a program that it has no memory for

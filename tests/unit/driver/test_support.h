@@ -26,14 +26,6 @@
 #include "tests/support/ppd_opening.h"
 #include "tests/support/temporary_folder.h"
 
-#if defined(__SANITIZE_ADDRESS__)
-#define KESTO_ADDRESS_SANITIZER
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define KESTO_ADDRESS_SANITIZER
-#endif
-#endif
-
 /// What `action` writes to standard error.
 template <typename Action>
 std::string errorOutputOf(Action action) {

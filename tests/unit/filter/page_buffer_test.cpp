@@ -2,6 +2,7 @@
 
 #include <malloc.h>
 
+#include "tests/support/sanitizers.h"
 #include "tests/unit/filter/test_support.h"
 
 namespace {
