@@ -72,7 +72,12 @@ void KestoPrinter::adjustPage() {
 
 void KestoPrinter::halftonePage(DitherType type) {
     constexpr std::uint32_t printedDepth = 8;
-    image_.Dither(static_cast<long>(type));
+    // Nobody would guess from such a print what went wrong. An image that an earlier step left
+    // empty is not printed, which is said there.
+    if (!image_.Dither(static_cast<long>(type)) && image_.IsValid()) {
+        kestoLogCommon(kestoLogError, "PageProcess: The page is printed without a halftone: %s",
+                       image_.GetLastError());
+    }
     image_.IncreaseBpp(printedDepth);
     pimage_ = &image_;
     kestoLogCommon(kestoLogTrace, "PageProcess: Applied default dithering and increased bit depth");

@@ -64,4 +64,24 @@ TEST_F(PageWithoutMemory, ForAnyOfItsBuffersIsPrintedInFullOrNotAtAll) {
     EXPECT_LT(printed, 60);
 }
 
+TEST_F(PageWithoutMemory, ForItsHalftoneIsPrintedWithoutOneAndThatIsSaid) {
+    constexpr std::size_t side = 40;
+    const reference::Bytes page = noise(side * side);
+    int unhalftoned = 0;
+    for (int ordinal = 1; ordinal <= 60; ++ordinal) {
+        TestPrinter fresh;
+        const std::string log = errorOutputOf([&] {
+            const FailingAllocation failure(ordinal);
+            fresh.printImage(page.data(), side, side, side);
+        });
+        const bool grey = fresh.pages.size() == 1 && fresh.pages[0].bits == page;
+        unhalftoned += grey ? 1 : 0;
+        EXPECT_EQ(log.find("ERROR:PageProcess: The page is printed without a halftone: "
+                           "RasterImage::Create can't allocate memory\n") != std::string::npos,
+                  grey)
+            << ordinal;
+    }
+    EXPECT_EQ(unhalftoned, 1);
+}
+
 }  // namespace
