@@ -95,17 +95,17 @@ struct PlainImage {
     /// The lowest of the nearest entries among the first `important`, 0 for all.
     std::uint8_t nearest(tagRGBQUAD c, std::size_t important) const {
         const auto square = [](int a, int b) { return (a - b) * (a - b); };
-        std::vector<int> distances;
-        for (const tagRGBQUAD& entry : palette) {
-            distances.push_back(square(entry.rgbBlue, c.rgbBlue) +
-                                square(entry.rgbGreen, c.rgbGreen) +
-                                square(entry.rgbRed, c.rgbRed));
+        const auto distance = [&](const tagRGBQUAD& entry) {
+            return square(entry.rgbBlue, c.rgbBlue) + square(entry.rgbGreen, c.rgbGreen) +
+                   square(entry.rgbRed, c.rgbRed);
+        };
+        const std::size_t count =
+            important == 0 ? palette.size() : std::min(important, palette.size());
+        std::size_t best = 0;
+        for (std::size_t i = 1; i < count; ++i) {
+            best = distance(palette[i]) < distance(palette[best]) ? i : best;
         }
-        if (important != 0 && important < distances.size()) {
-            distances.resize(important);
-        }
-        const auto best = std::min_element(distances.begin(), distances.end());
-        return static_cast<std::uint8_t>(best - distances.begin());
+        return static_cast<std::uint8_t>(best);
     }
 
     void setGreyPalette() {
