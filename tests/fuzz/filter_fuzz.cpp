@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <cstring>
 #include <list>
 #include <memory>
 #include <optional>
@@ -16,6 +15,7 @@
 #include "tests/fuzz/fuzz_target.h"
 #include "tests/fuzz/memory_file.h"
 #include "tests/reference/job.h"
+#include "tests/support/raster_reader.h"
 
 // A whole job from any option string, PPD file and raster stream, compared with what the reference
 // makes of it. The input holds two lengths of 16 bits, lowest byte first, the option string and
@@ -96,35 +96,6 @@ struct RasterCloser {
 };
 using Raster = std::unique_ptr<cups_raster_t, RasterCloser>;
 
-template <typename Enumeration>
-unsigned numberIn(const Enumeration& field) {
-    unsigned number = 0;
-    std::memcpy(&number, &field, sizeof number);
-    return number;
-}
-
-reference::PageHeader headerOf(const cups_page_header2_t& header) {
-    reference::PageHeader plain;
-    plain.width = header.cupsWidth;
-    plain.height = header.cupsHeight;
-    plain.bytesPerLine = header.cupsBytesPerLine;
-    plain.bitsPerPixel = header.cupsBitsPerPixel;
-    plain.bitsPerColor = header.cupsBitsPerColor;
-    plain.colorOrder = numberIn(header.cupsColorOrder);
-    plain.colorSpace = numberIn(header.cupsColorSpace);
-    plain.compression = header.cupsCompression;
-    plain.rowCount = header.cupsRowCount;
-    plain.rowFeed = header.cupsRowFeed;
-    plain.rowStep = header.cupsRowStep;
-    plain.mediaType = header.cupsMediaType;
-    plain.xDpi = header.HWResolution[0];
-    plain.yDpi = header.HWResolution[1];
-    plain.copies = header.NumCopies;
-    plain.pageSizeName = std::string(
-        header.cupsPageSizeName, strnlen(header.cupsPageSizeName, sizeof header.cupsPageSizeName));
-    return plain;
-}
-
 bool isPrinted(const reference::PageHeader& header) {
     return header.bitsPerPixel == 8 && header.height != 0 && header.bytesPerLine >= header.width &&
            header.bytesPerLine != 0;
@@ -140,7 +111,7 @@ std::optional<std::vector<reference::Page>> pagesOf(int file) {
     cups_page_header2_t header;
     while (cupsRasterReadHeader2(raster.get(), &header) != 0) {
         reference::Page page;
-        page.header = headerOf(header);
+        page.header = headerFrom(header);
         const std::uint64_t bytes = std::uint64_t{header.cupsBytesPerLine} * header.cupsHeight;
         if (!isPrinted(page.header)) {
             pages.push_back(page);

@@ -2,8 +2,8 @@
 
 #include "tests/preview/dot_picture.h"
 #include "tests/preview/preview_run.h"
-#include "tests/preview/raster_reader.h"
 #include "tests/reference/page_process.h"
+#include "tests/support/raster_reader.h"
 #include "tests/system/comparison.h"
 
 namespace {
@@ -51,8 +51,9 @@ TEST_P(Golden, ThePreviewerDrawsThePictureOfTheStream) {
 
 TEST_P(Golden, ThePictureIsTheFinishedImageOfTheRaster) {
     const Triple& triple = GetParam();
-    const auto pages = readRaster(golden(triple.name + ".raster"));
+    const auto pages = pagesIn(readFile(golden(triple.name + ".raster")), 1U << 24U);
     ASSERT_EQ(pages.size(), 1U);
+    ASSERT_TRUE(pages[0].readable);
     EXPECT_EQ(pages[0].header.xDpi, triple.dpi);
     reference::PageProperties properties;
     properties.halftoneType = triple.halftoneType;

@@ -1,7 +1,5 @@
 #include "tests/support/raster_reader.h"
 
-#include <cups/raster.h>
-
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
@@ -33,26 +31,6 @@ std::uint32_t numberIn(const Enumeration& field) {
     return number;
 }
 
-PageHeader fromCups(const cups_page_header2_t& cups) {
-    PageHeader header;
-    header.width = cups.cupsWidth;
-    header.height = cups.cupsHeight;
-    header.bytesPerLine = cups.cupsBytesPerLine;
-    header.bitsPerPixel = cups.cupsBitsPerPixel;
-    header.bitsPerColor = cups.cupsBitsPerColor;
-    header.colorOrder = numberIn(cups.cupsColorOrder);
-    header.colorSpace = numberIn(cups.cupsColorSpace);
-    header.compression = cups.cupsCompression;
-    header.rowCount = cups.cupsRowCount;
-    header.rowFeed = cups.cupsRowFeed;
-    header.rowStep = cups.cupsRowStep;
-    header.mediaType = cups.cupsMediaType;
-    header.xDpi = cups.HWResolution[0];
-    header.yDpi = cups.HWResolution[1];
-    header.copies = cups.NumCopies;
-    return header;
-}
-
 bool endsTheJob(const PageHeader& header) {
     const std::uint64_t bytes = std::uint64_t{header.bytesPerLine} * header.height;
     return header.bitsPerPixel != 8 || bytes == 0 || bytes > 0xFFFFFFFF ||
@@ -71,16 +49,38 @@ bool readRows(cups_raster_t* raster, Page& page, std::size_t most) {
 
 }  // namespace
 
-std::vector<Page> pagesIn(const std::string& stream) {
+PageHeader headerFrom(const cups_page_header2_t& cups) {
+    PageHeader header;
+    header.width = cups.cupsWidth;
+    header.height = cups.cupsHeight;
+    header.bytesPerLine = cups.cupsBytesPerLine;
+    header.bitsPerPixel = cups.cupsBitsPerPixel;
+    header.bitsPerColor = cups.cupsBitsPerColor;
+    header.colorOrder = numberIn(cups.cupsColorOrder);
+    header.colorSpace = numberIn(cups.cupsColorSpace);
+    header.compression = cups.cupsCompression;
+    header.rowCount = cups.cupsRowCount;
+    header.rowFeed = cups.cupsRowFeed;
+    header.rowStep = cups.cupsRowStep;
+    header.mediaType = cups.cupsMediaType;
+    header.xDpi = cups.HWResolution[0];
+    header.yDpi = cups.HWResolution[1];
+    header.copies = cups.NumCopies;
+    header.pageSizeName = std::string(cups.cupsPageSizeName,
+                                      strnlen(cups.cupsPageSizeName, sizeof cups.cupsPageSizeName));
+    return header;
+}
+
+std::vector<Page> pagesIn(const std::string& stream, std::size_t mostBytes) {
     Source source = {&stream};
     cups_raster_t* raster = cupsRasterOpenIO(readFromString, &source, CUPS_RASTER_READ);
     std::vector<Page> pages;
     cups_page_header2_t header;
     while (cupsRasterReadHeader2(raster, &header) != 0) {
         Page page;
-        page.header = fromCups(header);
+        page.header = headerFrom(header);
         const bool last = endsTheJob(page.header);
-        page.readable = !last && readRows(raster, page, stream.size());
+        page.readable = !last && readRows(raster, page, mostBytes);
         pages.push_back(page);
         if (last || !page.readable) {
             break;

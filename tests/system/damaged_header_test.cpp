@@ -41,7 +41,7 @@ TEST(DamagedHeader, WithAnySingleBitFlippedIsPrintedOrRefusedAsTheReferenceSays)
         for (std::size_t bit = word; bit < word + wordBits; ++bit) {
             all += pageWithFlippedBit(page, bit);
         }
-        const bool together = pagesIn(all).size() == wordBits;
+        const bool together = pagesIn(all, all.size()).size() == wordBits;
         for (std::size_t bit = word; bit < word + wordBits && !together; ++bit) {
             runs.expectReference(
                 std::string(sync).append(pageWithFlippedBit(page, bit)).append(page),

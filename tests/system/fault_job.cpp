@@ -59,7 +59,7 @@ FilterCall FaultRuns::callWith(const std::string& raster) const {
 }
 
 void FaultRuns::expectReference(const std::string& raster, const std::string& name) {
-    expectOutcome(callWith(raster), pagesIn(raster), name);
+    expectOutcome(callWith(raster), pagesIn(raster, raster.size()), name);
 }
 
 void FaultRuns::expectOutcome(const FilterCall& call, const std::vector<reference::Page>& pages,
