@@ -102,7 +102,7 @@ struct PlainImage {
         const std::size_t count =
             important == 0 ? palette.size() : std::min(important, palette.size());
         std::size_t best = 0;
-        for (std::size_t i = 1; i < count; ++i) {
+        for (std::size_t i = 0; i < count && distance(palette[best]) != 0; ++i) {
             best = distance(palette[i]) < distance(palette[best]) ? i : best;
         }
         return static_cast<std::uint8_t>(best);
