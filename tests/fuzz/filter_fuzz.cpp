@@ -66,7 +66,7 @@ struct Input {
 };
 
 std::string taken(std::string& rest, std::size_t length) {
-    const std::string part = rest.substr(0, length);
+    std::string part = rest.substr(0, length);
     rest.erase(0, length);
     return part;
 }

@@ -91,6 +91,7 @@ std::vector<std::string> commandOf(const FilterCall& call) {
         setenv(name.c_str(), value.c_str(), 1);
     }
     std::vector<char*> arguments;
+    arguments.reserve(command.size() + 1);
     for (const std::string& argument : command) {
         arguments.push_back(const_cast<char*>(argument.c_str()));
     }
