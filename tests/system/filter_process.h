@@ -11,9 +11,12 @@
 /// What a process finds SIGTERM set to when it starts.
 enum class Termination { AsUsual, Ignored, Blocked };
 
+/// The filter of this build, or the copy of it that KESTO_FILTER_COPY names.
+std::string testedFilter();
+
 /// How to start the filter, or another program.
 struct FilterCall {
-    std::string program = KESTO_FILTER;
+    std::string program = testedFilter();
     std::vector<std::string> arguments;  ///< behind the program's name
     std::string standardInput;           ///< all that it can read there
     std::vector<std::pair<std::string, std::string>> environment;

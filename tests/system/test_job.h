@@ -23,4 +23,4 @@ void expectPrintsAsReference(const reference::Job& job, RasterForm form = Raster
 
 /// As above, with a raster stream of the caller's.
 void expectPrintsAsReference(const reference::Job& job, const std::string& raster,
-                             const std::string& program = KESTO_FILTER);
+                             const std::string& program = testedFilter());
