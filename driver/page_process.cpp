@@ -5,9 +5,9 @@
 #include "enhance/tattoo_dithering.h"
 
 // From the grey page to the finished image, in the order of printing: load, tone, rotate,
-// mirror, halftone, invert, frame, copy out. The results of the steps behind loading are not
-// looked at: where memory runs out, the image stays as it was or is left empty, and an empty one
-// is not printed.
+// mirror, halftone, invert, frame, copy out. The results of the steps behind loading change
+// nothing: where memory runs out, the image stays as it was or is left empty, and an empty one is
+// not printed.
 std::int64_t KestoPrinter::PageProcess(DitherType type, const unsigned char* src, int stride,
                                        int width, int height, std::span<unsigned char> out) {
     useQMDithering_ = halftoneType_ == DitherType::Tattoo || halftoneType_ == DitherType::Tattoo_X8;
