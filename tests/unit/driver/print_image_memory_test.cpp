@@ -43,42 +43,50 @@ TEST_F(PageWithoutMemory, ForItsSecondBufferIsGivenUpAfterTheRawDump) {
     EXPECT_EQ(page_index, dumps.firstIndex() + 1);
 }
 
+constexpr std::size_t side = 40;
+constexpr int mostBuffers = 60;  // more than a page asks for
+
+// What a printer of its own prints and logs of a page whose `ordinal`th buffer finds no memory.
+struct Attempt {
+    Attempt(const reference::Bytes& page, int ordinal) {
+        TestPrinter printer;
+        log = errorOutputOf([&] {
+            const FailingAllocation failure(ordinal);
+            printer.printImage(page.data(), side, side, side);
+        });
+        pages = printer.pages;
+    }
+
+    std::vector<TestPrinter::PrintedPage> pages;
+    std::string log;
+};
+
 // A page is as large as it says or not printed: where the halftone cannot be unpacked to a byte
 // per pixel, its rows are too short for that.
 TEST_F(PageWithoutMemory, ForAnyOfItsBuffersIsPrintedInFullOrNotAtAll) {
-    constexpr std::size_t side = 40;
     const reference::Bytes page = noise(side * side);
     int printed = 0;
-    for (int ordinal = 1; ordinal <= 60; ++ordinal) {
-        TestPrinter fresh;
-        errorOutputOf([&] {
-            const FailingAllocation failure(ordinal);
-            fresh.printImage(page.data(), side, side, side);
-        });
-        for (const TestPrinter::PrintedPage& finished : fresh.pages) {
+    for (int ordinal = 1; ordinal <= mostBuffers; ++ordinal) {
+        for (const auto& finished : Attempt(page, ordinal).pages) {
             ++printed;
             EXPECT_EQ(finished.bits.size(), side * side) << ordinal;
         }
     }
     EXPECT_GT(printed, 0);
-    EXPECT_LT(printed, 60);
+    EXPECT_LT(printed, mostBuffers);
 }
 
 TEST_F(PageWithoutMemory, ForItsHalftoneIsPrintedWithoutOneAndThatIsSaid) {
-    constexpr std::size_t side = 40;
     const reference::Bytes page = noise(side * side);
     int unhalftoned = 0;
-    for (int ordinal = 1; ordinal <= 60; ++ordinal) {
-        TestPrinter fresh;
-        const std::string log = errorOutputOf([&] {
-            const FailingAllocation failure(ordinal);
-            fresh.printImage(page.data(), side, side, side);
-        });
-        const bool grey = fresh.pages.size() == 1 && fresh.pages[0].bits == page;
+    for (int ordinal = 1; ordinal <= mostBuffers; ++ordinal) {
+        const Attempt attempt(page, ordinal);
+        const bool grey = attempt.pages.size() == 1 && attempt.pages[0].bits == page;
         unhalftoned += grey ? 1 : 0;
-        EXPECT_EQ(log.find("ERROR:PageProcess: The page is printed without a halftone: "
-                           "RasterImage::Create can't allocate memory\n") != std::string::npos,
-                  grey)
+        EXPECT_EQ(
+            attempt.log.find("ERROR:PageProcess: The page is printed without a halftone: "
+                             "RasterImage::Create can't allocate memory\n") != std::string::npos,
+            grey)
             << ordinal;
     }
     EXPECT_EQ(unhalftoned, 1);
