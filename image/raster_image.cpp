@@ -54,13 +54,17 @@ void* RasterImage::Create(std::uint32_t width, std::uint32_t height, std::uint32
 bool RasterImage::create(std::uint32_t width, std::uint32_t height, std::uint32_t bpp,
                          std::uint32_t type, Rows rows) {
     Destroy();
-    const std::uint32_t depth = roundUpDepth(bpp);
-    if (!checkSize(width, height, depth)) {
+    return describe(width, height, roundUpDepth(bpp), type) && allocate(rows);
+}
+
+bool RasterImage::describe(std::uint32_t width, std::uint32_t height, std::uint32_t bpp,
+                           std::uint32_t type) {
+    if (!checkSize(width, height, bpp)) {
         return false;
     }
     info.type = type;
-    fillHeader(width, height, depth);
-    return allocate(rows);
+    fillHeader(width, height, bpp);
+    return true;
 }
 
 bool RasterImage::checkSize(std::uint32_t width, std::uint32_t height, std::uint32_t bpp) {
@@ -127,17 +131,17 @@ void RasterImage::clearRowEnds() {
     }
 }
 
-// The block of the former image is used on when it has the right size. The new one goes back
-// without having been filled: the system need not even find memory for it.
+// The block of the former image is used on when it has the right size. Only where another is needed
+// can memory be short, and then the former image is still there.
 bool RasterImage::ReplaceByGrey(std::uint32_t width, std::uint32_t height) {
-    constexpr std::uint32_t greyDepth = 8;
     RasterImage result;
-    if (!result.create(width, height, greyDepth, 0, Rows::Written)) {
-        return false;
-    }
-    if (dib && GetSize() == result.GetSize()) {
+    const bool allowed = result.describe(width, height, 8, 0);
+    if (allowed && dib && GetSize() == result.GetSize()) {
         result.useBlock(std::move(dib));
         result.clearRowEnds();
+    } else if (!allowed || !result.allocate(Rows::Written)) {
+        setLastError(result.GetLastError());
+        return false;
     }
     result.SetGrayPalette();
     return Transfer(result);

@@ -160,6 +160,8 @@ private:
     enum class Rows { Zeroed, Written };
     bool create(std::uint32_t width, std::uint32_t height, std::uint32_t bpp, std::uint32_t type,
                 Rows rows);
+    /// Fills header and information record for an image that has no block yet.
+    bool describe(std::uint32_t width, std::uint32_t height, std::uint32_t bpp, std::uint32_t type);
     bool allocate(Rows rows);
     void clearRowEnds();
     void useBlock(MallocBuffer block);

@@ -155,13 +155,35 @@ TEST(LoadGrey, LeavesTheFormerImageWhenThereIsNoMemory) {
     {
         const NoMemory none;
         EXPECT_FALSE(image.LoadGrey(former.data(), 2, 2, 2));
-        EXPECT_FALSE(image.LoadGrey(former.data(), 4, 1, 4));
+        EXPECT_STREQ(image.GetLastError(), memoryText);
     }
     EXPECT_EQ(rowsOf(image), former);
     EXPECT_EQ(image.GetWidth(), 4);
     EXPECT_FALSE(image.LoadGrey(former.data(), 0, 1, 4));
+    EXPECT_STREQ(image.GetLastError(), sizeText);
     EXPECT_FALSE(image.LoadGrey(nullptr, 4, 1, 4));
     EXPECT_EQ(rowsOf(image), former);
+}
+
+TEST(LoadGrey, NeedsNoMemoryForAnImageOfTheSameSize) {
+    const reference::Bytes former = {1, 2, 3, 4};
+    const reference::Bytes next = {5, 6, 7, 8};
+    RasterImage image;
+    image.LoadGrey(former.data(), 4, 1, 4);
+    const NoMemory none;
+    EXPECT_TRUE(image.LoadGrey(next.data(), 4, 1, 4));
+    EXPECT_EQ(rowsOf(image), next);
+}
+
+// 4 × 2 and 3 × 2 pixels both take two rows of four bytes.
+TEST(LoadGrey, ClearsTheRowEndsOfABlockThatItUsesAgain) {
+    const reference::Bytes former = {1, 2, 3, 4, 5, 6, 7, 8};
+    RasterImage image;
+    image.LoadGrey(former.data(), 4, 2, 4);
+    const NoMemory none;
+    EXPECT_TRUE(image.LoadGrey(former.data(), 3, 2, 3));
+    EXPECT_EQ(rowsOf(image), (reference::Bytes{1, 2, 3, 0, 4, 5, 6, 0}));
+    EXPECT_EQ(image.GetWidth(), 3);
 }
 
 TEST(LoadGrey, KeepsOneBlock) {
