@@ -16,6 +16,7 @@ struct BmpLayout {
     std::uint32_t rowSize() const;
     std::uint32_t imageSize() const;
     std::uint32_t dataOffset() const;
+    std::uint64_t fileSize() const { return dataOffset() + std::uint64_t{rowSize()} * height; }
 };
 
 /// The file and information headers, 54 bytes.

@@ -9,6 +9,7 @@
 #include <span>
 
 #include "driver/halftone_type.h"
+#include "driver/own_file.h"
 #include "image/malloc_buffer.h"
 #include "image/raster_image.h"
 
@@ -22,6 +23,9 @@ class KestoPrinter {
 public:
     /// Whatever the owner wants to keep with the printer; never looked into.
     struct UserData;
+    /// What became of a page that was to be printed. Where no image can be made of it, the image of
+    /// the page before is printed again, if there is one.
+    enum class PageOutcome { Printed, WithoutHalftone, Repeated, LeftOut };
 
     KestoPrinter();
     /// Leaves every stream open: streams belong to the owner.
@@ -91,10 +95,11 @@ public:
     // Pages
 
     /// Prints one page of `height` rows of `width` grey bytes, `bytesPerLine` bytes apart, and
-    /// dumps its raw and its finished image (print_image.cpp). A page that cannot be processed
-    /// is logged and skipped.
+    /// dumps its raw and its finished image (print_image.cpp). What cannot be done is logged, and
+    /// `getPageOutcome` tells what became of the page.
     void printImage(const unsigned char* data, std::size_t bytesPerLine, std::size_t height,
                     std::size_t width);
+    PageOutcome getPageOutcome() const { return pageOutcome_; }
 
     /// Turns a grey page into the finished image that printing uses, one byte per pixel, and
     /// copies its pixels into `out` as far as they fit (page_process.cpp). `out` holds at least
@@ -121,9 +126,10 @@ public:
 
     /// Writes an image of `height` rows of one byte per pixel to a BMP file named after the
     /// local time and a running number (bmp_dump.cpp). `bitCount` 8 keeps grey levels; with 1 a
-    /// zero byte is white and any other black.
+    /// zero byte is white and any other black. Where a file cannot be made, or would leave less
+    /// than 64 MiB of its file system free, a line on standard error says so.
     void saveImage(const unsigned char* data, std::size_t bytesPerLine, std::size_t height,
-                   std::size_t width, unsigned short bitCount) const;
+                   std::size_t width, unsigned short bitCount);
 
 protected:
     /// Sends a finished page: `height` rows, `bytesPerLine` bytes apart, of `width` palette
@@ -154,6 +160,8 @@ protected:
     std::uint64_t skipRightPixels_ = 0;
     UserData* userData_ = nullptr;
     std::int32_t resolution_ = 300;  ///< dots per inch; nothing changes it
+    PageOutcome pageOutcome_ = PageOutcome::LeftOut;
+    bool spaceIsShort_ = false;
 
 private:
     struct BlankEdges {
@@ -161,26 +169,25 @@ private:
         std::size_t bottom = 0;
     };
 
-    void formatNextDumpPath(std::span<char> path) const;
-    /// False for null and for an image that a step without memory left empty or packed.
-    bool hasFinishedImage() const {
-        return pimage_ != nullptr && pimage_->IsValid() && pimage_->GetHeader().biBitCount == 8;
-    }
+    /// Rows of one byte per pixel, `bytesPerLine` bytes apart; none when `data` is null.
+    struct PixelRows {
+        const unsigned char* data = nullptr;
+        std::size_t bytesPerLine = 0;
+        std::size_t height = 0;
+        std::size_t width = 0;
+    };
+
+    OwnedFile openDump(std::span<char> path, std::uint64_t size);
     void setDumpTemplate(const char* pathTemplate);
     BlankEdges countBlankEdges(const unsigned char* data, std::size_t bytesPerLine,
                                std::size_t height, std::size_t width) const;
-    void printInBuffers(const unsigned char* data, std::size_t bytesPerLine, std::size_t height,
-                        std::size_t width);
-    MallocBuffer processAndPrint(const unsigned char* data, std::size_t bytesPerLine,
-                                 std::size_t height, std::size_t width, BlankEdges edges);
     void logProcessedPage(const unsigned char* processed, std::size_t bytesPerLine,
                           std::size_t height, std::size_t width, BlankEdges edges) const;
-    void dumpRawPage(const unsigned char* data, std::size_t bytesPerLine, std::size_t height,
-                     std::size_t width);
-    void dumpFinishedImage();
+    void dumpImage(const char* pathTemplate, const char* kind, const PixelRows& rows);
+    PixelRows finishedRows() const;
     void printFinishedImage();
     bool loadPage(const unsigned char* src, int stride, int width, int height);
-    void adjustPage();
+    bool adjustPage();
     void halftonePage(DitherType type);
     bool stencilPage(int stride, int width, int height, std::span<unsigned char> out);
 };

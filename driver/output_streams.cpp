@@ -19,13 +19,8 @@ bool KestoPrinter::printStr(const char* s) {
     return false;
 }
 
-// The dots of a page come this way, mostly to a single stream. With no threads there is nothing to
-// lock a stream against.
+// The dots of a page come this way. With no threads there is nothing to lock a stream against.
 bool KestoPrinter::printByte(unsigned char c) {
-    if (outputStreams_.size() == 1) {
-        putc_unlocked(c, outputStreams_.front());
-        return false;
-    }
     for (std::FILE* stream : outputStreams_) {
         putc_unlocked(c, stream);
     }

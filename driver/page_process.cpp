@@ -1,22 +1,20 @@
-#include <vector>
-
 #include "driver/kesto_printer.h"
 #include "driver/log.h"
 #include "enhance/tattoo_dithering.h"
 
 // From the grey page to the finished image, in the order of printing: load, tone, rotate,
-// mirror, halftone, invert, frame, copy out. The results of the steps behind loading change
-// nothing: where memory runs out, the image stays as it was or is left empty, and an empty one is
-// not printed.
+// mirror, halftone, invert, frame, copy out. A page for which no image can be had leaves the one of
+// the page before in its place. Where memory runs out in a step behind loading, the image stays as
+// it was, or is lost and nothing is printed.
 std::int64_t KestoPrinter::PageProcess(DitherType type, const unsigned char* src, int stride,
                                        int width, int height, std::span<unsigned char> out) {
     useQMDithering_ = halftoneType_ == DitherType::Tattoo || halftoneType_ == DitherType::Tattoo_X8;
     kestoLogCommon(kestoLogTrace, "PageProcess: QM dithering is %s",
                    useQMDithering_ ? "enabled" : "disabled");
-    if (!loadPage(src, stride, width, height)) {
+    pageOutcome_ = PageOutcome::Repeated;
+    if (!loadPage(src, stride, width, height) || !adjustPage()) {
         return 0;
     }
-    adjustPage();
     if (!useQMDithering_) {
         halftonePage(type);
     } else if (!stencilPage(stride, width, height, out)) {
@@ -52,7 +50,8 @@ bool KestoPrinter::loadPage(const unsigned char* src, int stride, int width, int
     return true;
 }
 
-void KestoPrinter::adjustPage() {
+// False, and nothing is left to print, when there was no memory for the turned or mirrored image.
+bool KestoPrinter::adjustPage() {
     if (brightness_ != 0 || contrast_ != 0) {
         const int brightness = brightness_ * 5;
         const int contrast = contrast_ * 2;
@@ -68,13 +67,19 @@ void KestoPrinter::adjustPage() {
         image_.Mirror();
         kestoLogCommon(kestoLogTrace, "PageProcess: Mirrored the image");
     }
+    if (!image_.IsValid()) {
+        kestoLogCommon(kestoLogError, "PageProcess: The image of the page is lost: %s",
+                       image_.GetLastError());
+        pimage_ = nullptr;
+    }
+    return image_.IsValid();
 }
 
 void KestoPrinter::halftonePage(DitherType type) {
     constexpr std::uint32_t printedDepth = 8;
-    // Nobody would guess from such a print what went wrong. An image that an earlier step left
-    // empty is not printed, which is said there.
-    if (!image_.Dither(static_cast<long>(type)) && image_.IsValid()) {
+    pageOutcome_ = PageOutcome::Printed;
+    if (!image_.Dither(static_cast<long>(type))) {
+        pageOutcome_ = PageOutcome::WithoutHalftone;
         kestoLogCommon(kestoLogError, "PageProcess: The page is printed without a halftone: %s",
                        image_.GetLastError());
     }
@@ -91,16 +96,13 @@ bool KestoPrinter::stencilPage(int stride, int width, int height, std::span<unsi
                    "PageProcess: Copied pixels to the output buffer for QM dithering, with stride "
                    "%d, EffWidth %d",
                    stride, static_cast<int>(image_.GetEffWidth()));
-    // Rows without gaps are taken from the image itself; one that a step without memory left empty
-    // is a blank page.
-    const std::vector<unsigned char> blankRow(static_cast<std::size_t>(width));
-    GreyRows page = {blankRow.data(), 0, width, height};
     if (stride != width) {
-        page = {out.data(), width, width, height};
-    } else if (image_.IsValid()) {
-        page = {image_.GetBits(0), static_cast<std::ptrdiff_t>(image_.GetEffWidth()), width,
-                height};
+        // Rows with gaps are read as if they had none, so a stencil of such a page leans.
+        image_.LoadGrey(out.data(), static_cast<unsigned>(width), static_cast<unsigned>(height),
+                        static_cast<unsigned>(width));
     }
+    const GreyRows page = {image_.GetBits(0), static_cast<std::ptrdiff_t>(image_.GetEffWidth()),
+                           width, height};
     const bool created =
         ditheredImage_.ReplaceByGrey(static_cast<unsigned>(width), static_cast<unsigned>(height));
     if (created) {
@@ -119,5 +121,6 @@ bool KestoPrinter::stencilPage(int stride, int width, int height, std::span<unsi
     kestoLogCommon(kestoLogTrace,
                    "PageProcess: Successfully created a new RasterImage from QM dithered data");
     pimage_ = &ditheredImage_;
+    pageOutcome_ = PageOutcome::Printed;
     return true;
 }

@@ -5,25 +5,14 @@
 
 namespace {
 
-bool hasByteRows(const RasterImage& image, int width, int height) {
-    return image.IsValid() && image.GetHeader().biBitCount == 8 && width <= image.GetWidth() &&
-           height <= image.GetHeight();
-}
-
 // Puts convert(index) for every pixel of the given area into its place in `out`, if it has one.
 template <typename Convert>
 void copyArea(const RasterImage& image, std::span<unsigned char> out, int width, int height,
               int stride, Convert convert) {
-    const bool byteRows = hasByteRows(image, width, height);
     for (int y = 0; y < height; ++y) {
         const std::size_t start = static_cast<std::size_t>(y) * static_cast<std::size_t>(stride);
         const auto row = out.subspan(std::min(start, out.size()));
         const auto used = row.first(std::min(row.size(), static_cast<std::size_t>(width)));
-        if (byteRows) {
-            const std::uint8_t* pixels = image.GetBits(static_cast<unsigned>(y));
-            std::transform(pixels, pixels + used.size(), used.begin(), convert);
-            continue;
-        }
         for (std::size_t x = 0; x < used.size(); ++x) {
             used[x] = convert(image.GetPixelIndex(static_cast<std::int64_t>(x), y));
         }

@@ -1,7 +1,3 @@
-#if __has_include(<malloc.h>)
-#include <malloc.h>
-#endif
-
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -18,16 +14,6 @@ constexpr unsigned bottomEdge = 8;
 
 constexpr const char* originTemplate = "/var/spool/cups/tmp/origin_%d-%d-%d_%d_%d_%d_%ld.bmp";
 constexpr const char* ditheredTemplate = "/var/spool/cups/tmp/dithered_%d-%d-%d_%d_%d_%d_%ld.bmp";
-
-// Every page takes and gives back blocks of the same few sizes. Handed back to the system, they
-// would come again as zeroed memory, which costs more than what is done on it: freed blocks are
-// kept.
-void keepFreedMemory() {
-#if defined(M_MMAP_MAX) && defined(M_TRIM_THRESHOLD)
-    mallopt(M_MMAP_MAX, 0);
-    mallopt(M_TRIM_THRESHOLD, -1);
-#endif
-}
 
 MallocBuffer allocate(std::size_t size) {
     return MallocBuffer(static_cast<unsigned char*>(std::malloc(size)));
@@ -52,30 +38,37 @@ void KestoPrinter::printImage(const unsigned char* data, std::size_t bytesPerLin
                    "printImage: Start processing image, input width: %zu, height: %zu, "
                    "bytes per line: %zu",
                    width, height, bytesPerLine);
-    printInBuffers(data, bytesPerLine, height, width);
-    kestoLogCommon(kestoLogTrace, "printImage: Image processing completed");
-}
-
-void KestoPrinter::printInBuffers(const unsigned char* data, std::size_t bytesPerLine,
-                                  std::size_t height, std::size_t width) {
-    keepFreedMemory();
+    pageOutcome_ = PageOutcome::LeftOut;
     const std::size_t size = bytesPerLine * height;
-    // Nothing uses the scratch block. It is a probe: where it cannot be had, the page would
-    // fail half-way.
-    MallocBuffer scratch = allocate(size);
+    MallocBuffer scratch = allocate(size);  // held while the page lasts, and never looked at
     if (!scratch) {
         kestoLogCommon(kestoLogError,
                        "printImage: Memory allocation failed, unable to process image, "
                        "exiting processing");
+        kestoLogCommon(kestoLogTrace, "printImage: Image processing completed");
         return;
     }
     kestoLogCommon(kestoLogTrace, "printImage: Memory allocated successfully, size: %zu bytes",
                    size);
     const BlankEdges edges = countBlankEdges(data, bytesPerLine, height, width);
-    dumpRawPage(data, bytesPerLine, height, width);
-
-    const MallocBuffer processed = processAndPrint(data, bytesPerLine, height, width, edges);
-
+    dumpImage(originTemplate, "original", {data, bytesPerLine, height, width});
+    const MallocBuffer processed = allocate(2 * size);
+    if (processed) {
+        kestoLogCommon(kestoLogTrace,
+                       "printImage: Memory for processing result allocated successfully, "
+                       "size: %zu bytes",
+                       size);
+        PageProcess(halftoneType_, data, static_cast<int>(bytesPerLine), static_cast<int>(width),
+                    static_cast<int>(height),
+                    usedPart(processed.get(), 2 * size, bytesPerLine > width));
+        logProcessedPage(processed.get(), bytesPerLine, height, width, edges);
+        dumpImage(ditheredTemplate, "processed", finishedRows());
+        printFinishedImage();
+    } else {
+        kestoLogCommon(kestoLogError,
+                       "printImage: Memory allocation for processing result failed, unable to "
+                       "continue processing");
+    }
     scratch.reset();
     kestoLogCommon(kestoLogTrace, "printImage: Freed the allocated memory, address: %p",
                    static_cast<void*>(scratch.get()));
@@ -84,31 +77,7 @@ void KestoPrinter::printInBuffers(const unsigned char* data, std::size_t bytesPe
                        "printImage: Freed the memory for processing result, address: %p",
                        static_cast<void*>(processed.get()));
     }
-}
-
-// Hands back the processing buffer, null when it could not be had.
-MallocBuffer KestoPrinter::processAndPrint(const unsigned char* data, std::size_t bytesPerLine,
-                                           std::size_t height, std::size_t width,
-                                           BlankEdges edges) {
-    const std::size_t size = bytesPerLine * height;
-    MallocBuffer processed = allocate(2 * size);
-    if (!processed) {
-        kestoLogCommon(kestoLogError,
-                       "printImage: Memory allocation for processing result failed, unable to "
-                       "continue processing");
-        return processed;
-    }
-    kestoLogCommon(kestoLogTrace,
-                   "printImage: Memory for processing result allocated successfully, "
-                   "size: %zu bytes",
-                   size);
-    PageProcess(halftoneType_, data, static_cast<int>(bytesPerLine), static_cast<int>(width),
-                static_cast<int>(height),
-                usedPart(processed.get(), 2 * size, bytesPerLine > width));
-    logProcessedPage(processed.get(), bytesPerLine, height, width, edges);
-    dumpFinishedImage();
-    printFinishedImage();
-    return processed;
+    kestoLogCommon(kestoLogTrace, "printImage: Image processing completed");
 }
 
 // The row length goes in as the examined width and the width as the row distance: the two are
@@ -156,32 +125,32 @@ void KestoPrinter::logProcessedPage(const unsigned char* processed, std::size_t 
                    bytesPerLine, height, width, edges.top, edges.bottom, adjustedHeight);
 }
 
-void KestoPrinter::dumpRawPage(const unsigned char* data, std::size_t bytesPerLine,
-                               std::size_t height, std::size_t width) {
-    setDumpTemplate(originTemplate);
+void KestoPrinter::dumpImage(const char* pathTemplate, const char* kind, const PixelRows& rows) {
+    setDumpTemplate(pathTemplate);
     kestoLogCommon(kestoLogTrace,
-                   "printImage: Saving original image, file path will be generated based on time");
-    saveImage(data, bytesPerLine, height, width, 8);
+                   "printImage: Saving %s image, file path will be generated based on time", kind);
+    if (rows.data != nullptr) {
+        saveImage(rows.data, rows.bytesPerLine, rows.height, rows.width, 8);
+    }
 }
 
-void KestoPrinter::dumpFinishedImage() {
-    setDumpTemplate(ditheredTemplate);
-    kestoLogCommon(kestoLogTrace,
-                   "printImage: Saving processed image, file path will be generated based on time");
-    if (hasFinishedImage()) {
-        saveImage(pimage_->GetBits(0), pimage_->GetEffWidth(),
-                  static_cast<std::size_t>(pimage_->GetHeight()),
-                  static_cast<std::size_t>(pimage_->GetWidth()), 8);
+// Without data for an image that is not there, or that a step without memory left empty or packed.
+KestoPrinter::PixelRows KestoPrinter::finishedRows() const {
+    if (pimage_ == nullptr || !pimage_->IsValid() || pimage_->GetHeader().biBitCount != 8) {
+        return {};
     }
+    return {pimage_->GetBits(0), pimage_->GetEffWidth(),
+            static_cast<std::size_t>(pimage_->GetHeight()),
+            static_cast<std::size_t>(pimage_->GetWidth())};
 }
 
 void KestoPrinter::printFinishedImage() {
     kestoLogCommon(kestoLogTrace, "printImage: Starting to print the processed image");
-    if (!hasFinishedImage()) {
+    const PixelRows rows = finishedRows();
+    if (rows.data == nullptr) {
+        pageOutcome_ = PageOutcome::LeftOut;
         kestoLogCommon(kestoLogError, "printImage: pimage is NULL, unable to print the image");
         return;
     }
-    doPrintImage(pimage_->GetBits(0), pimage_->GetEffWidth(),
-                 static_cast<std::size_t>(pimage_->GetHeight()),
-                 static_cast<std::size_t>(pimage_->GetWidth()));
+    doPrintImage(rows.data, rows.bytesPerLine, rows.height, rows.width);
 }

@@ -5,6 +5,9 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstring>
+
+#include "driver/log.h"
 
 namespace {
 
@@ -32,8 +35,14 @@ int openEndOfFile() {
     return ends[0];
 }
 
-// Whoever started the filter may have blocked the signal.
-void unblock(int signal) {
+// Whoever started the filter may have blocked or ignored the signal.
+void take(int signal, void (*handler)(int)) {
+    struct sigaction action = {};
+    action.sa_handler = handler;
+    // Restarted, a write of picture data goes on where it was; reset, the second signal kills.
+    action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
+    sigemptyset(&action.sa_mask);
+    sigaction(signal, &action, nullptr);
     sigset_t signals;
     sigemptyset(&signals);
     sigaddset(&signals, signal);
@@ -46,14 +55,13 @@ void heedCancellation(int input) {
     if (sEndOfFile == -1) {
         sEndOfFile = openEndOfFile();
     }
+    if (sEndOfFile == -1) {
+        kestoLogCommon(kestoLogError, "SIGTERM ends the filter wherever it is: %s",
+                       std::strerror(errno));
+        return take(SIGTERM, SIG_DFL);
+    }
     sInput = input;
-    struct sigaction action = {};
-    action.sa_handler = cancel;
-    // Restarted, a write of picture data goes on where it was; reset, the second signal kills.
-    action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
-    sigemptyset(&action.sa_mask);
-    sigaction(SIGTERM, &action, nullptr);
-    unblock(SIGTERM);
+    take(SIGTERM, cancel);
 }
 
 bool isCancelled() {

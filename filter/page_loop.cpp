@@ -48,6 +48,9 @@ void warnOfNoResolution(const cups_page_header2_t& header) {
 
 bool PrintJob::printPages() {
     raster_.reset(cupsRasterOpen(input_.descriptor(), CUPS_RASTER_READ));
+    if (!raster_ && !isCancelled()) {
+        kestoLogCommon(kestoLogError, "Unable to read the document: it is no raster");
+    }
     const bool printed = printRaster();
     const bool sent = flushOutput();
     if (isCancelled()) {
@@ -80,6 +83,8 @@ bool PrintJob::readHeader() {
 bool PrintJob::printPage() {
     tracePageSize(header_);
     if (!page_.growTo(pageBytes(header_))) {
+        kestoLogCommon(kestoLogError, "Unable to print page %d: no memory for its %u bytes",
+                       pageCount_ + 1, pageBytes(header_));
         return false;
     }
     setUpPage();
@@ -107,9 +112,33 @@ void PrintJob::setUpPage() {
 // A page whose pixels cannot be read is dropped, and the next one is tried.
 void PrintJob::readAndPrintPixels() {
     const unsigned read = cupsRasterReadPixels(raster_.get(), page_.data(), pageBytes(header_));
-    if (read != 0 && !isCancelled()) {
-        printer_->printImage(page_.data(), header_.cupsBytesPerLine, header_.cupsHeight,
-                             header_.cupsWidth);
+    if (isCancelled()) {
+        return;
+    }
+    if (read == 0) {
+        kestoLogCommon(kestoLogError,
+                       "Unable to read page %d: the raster ends inside it or is damaged",
+                       pageCount_);
+        return;
+    }
+    printer_->printImage(page_.data(), header_.cupsBytesPerLine, header_.cupsHeight,
+                         header_.cupsWidth);
+    reportPage();
+}
+
+void PrintJob::reportPage() const {
+    const auto report = [this](const char* fate) {
+        kestoLogCommon(kestoLogError, "Page %d was %s", pageCount_, fate);
+    };
+    switch (printer_->getPageOutcome()) {
+        case KestoPrinter::PageOutcome::Printed:
+            return;
+        case KestoPrinter::PageOutcome::WithoutHalftone:
+            return report("printed without its halftone");
+        case KestoPrinter::PageOutcome::Repeated:
+            return report("not printed; the page before it was, once more");
+        case KestoPrinter::PageOutcome::LeftOut:
+            return report("not printed");
     }
 }
 

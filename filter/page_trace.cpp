@@ -1,35 +1,20 @@
 #include "filter/page_trace.h"
 
+#include <bit>
 #include <cstdio>
-#include <cstring>
 
 #include "driver/log.h"
 #include "driver/own_file.h"
 
-namespace {
-
-// A header can hold any number here, also one that the enumeration does not have and that must
-// not be looked at as its value.
-template <typename Enumeration>
-unsigned numberIn(const Enumeration& field) {
-    unsigned number = 0;
-    static_assert(sizeof number == sizeof field);
-    std::memcpy(&number, &field, sizeof number);
-    return number;
-}
-
-}  // namespace
-
 void tracePageSize(const cups_page_header2_t& header) {
-    std::FILE* trace = openOwnFile("/tmp/xxxxx.log", readableByAll);
-    if (trace == nullptr) {
+    const OwnedFile trace = replaceOwnFile("/tmp/xxxxx.log", readableByAll);
+    if (!trace) {
         return;
     }
-    std::fprintf(trace, "cupsWidth:%d, cupsHeight:%d, cupsBytesPerLine:%d, cupsBitsPerPixel:%d\n",
-                 static_cast<int>(header.cupsWidth), static_cast<int>(header.cupsHeight),
-                 static_cast<int>(header.cupsBytesPerLine),
-                 static_cast<int>(header.cupsBitsPerPixel));
-    std::fclose(trace);
+    std::fprintf(
+        trace.get(), "cupsWidth:%d, cupsHeight:%d, cupsBytesPerLine:%d, cupsBitsPerPixel:%d\n",
+        static_cast<int>(header.cupsWidth), static_cast<int>(header.cupsHeight),
+        static_cast<int>(header.cupsBytesPerLine), static_cast<int>(header.cupsBitsPerPixel));
 }
 
 void logPageHeader(int pageNumber, const cups_page_header2_t& header) {
@@ -47,8 +32,9 @@ void logPageHeader(int pageNumber, const cups_page_header2_t& header) {
     logField("cupsBitsPerColor", header.cupsBitsPerColor);
     logField("cupsBitsPerPixel", header.cupsBitsPerPixel);
     logField("cupsBytesPerLine", header.cupsBytesPerLine);
-    logField("cupsColorOrder", numberIn(header.cupsColorOrder));
-    logField("cupsColorSpace", numberIn(header.cupsColorSpace));
+    // Bits, because a header can hold numbers that the enumerations do not have.
+    logField("cupsColorOrder", std::bit_cast<unsigned>(header.cupsColorOrder));
+    logField("cupsColorSpace", std::bit_cast<unsigned>(header.cupsColorSpace));
     logField("cupsCompression", header.cupsCompression);
     logField("cupsRowCount", header.cupsRowCount);
     logField("cupsRowFeed", header.cupsRowFeed);

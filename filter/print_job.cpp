@@ -3,14 +3,10 @@
 #include <cstdio>
 
 #include "filter/cancellation.h"
-#include "filter/current_printer.h"
 #include "filter/job_settings.h"
+#include "filter/recording_file.h"
 
 KestoPrinter* sPrinter = nullptr;
-
-PrintJob::Publication::~Publication() {
-    sPrinter = nullptr;
-}
 
 bool PrintJob::openInput(const char* path) {
     return input_.open(path);

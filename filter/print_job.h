@@ -4,9 +4,9 @@
 
 #include <memory>
 
+#include "filter/current_printer.h"
 #include "filter/input_file.h"
 #include "filter/page_buffer.h"
-#include "filter/recording_file.h"
 #include "filter/settings.h"
 #include "filter/tspl_printer.h"
 
@@ -15,7 +15,8 @@
 class PrintJob {
 public:
     PrintJob() = default;
-    ~PrintJob() = default;
+    /// Keeps `sPrinter` from outliving what it writes to.
+    ~PrintJob() { sPrinter = nullptr; }
     PrintJob(const PrintJob&) = delete;
     PrintJob& operator=(const PrintJob&) = delete;
 
@@ -38,13 +39,6 @@ public:
     bool printPages();
 
 private:
-    /// Keeps `sPrinter` from outliving what it writes to.
-    struct Publication {
-        Publication() = default;
-        ~Publication();
-        Publication(const Publication&) = delete;
-        Publication& operator=(const Publication&) = delete;
-    };
     struct RasterCloser {
         void operator()(cups_raster_t* raster) const { cupsRasterClose(raster); }
     };
@@ -54,14 +48,13 @@ private:
     bool printPage();
     void setUpPage();
     void readAndPrintPixels();
+    void reportPage() const;
     bool flushOutput();
     void flushRecording();
 
-    // Released from the last to the first: page, raster, input, the published pointer, the
-    // recording, the printer.
+    // Released from the last to the first: page, raster, input, the recording, the printer.
     std::unique_ptr<TsplPrinter> printer_;
-    RecordingFile recording_;
-    Publication publication_;
+    OwnedFile recording_;
     Settings settings_{};
     int pageCount_ = 0;
     bool outputFailed_ = false;

@@ -2,6 +2,9 @@
 
 #include <fcntl.h>
 #include <unistd.h>
+#if __has_include(<malloc.h>)
+#include <malloc.h>
+#endif
 
 #include <array>
 #include <csignal>
@@ -33,6 +36,16 @@ void bufferStandardStreams() {
     std::setvbuf(stdout, output.data(), _IOFBF, output.size());
 }
 
+// Every page takes and gives back blocks of the same few sizes. Handed back to the system, they
+// would come again as zeroed memory, which costs more than what is done on it: freed blocks are
+// kept.
+void keepFreedMemory() {
+#if defined(M_MMAP_MAX) && defined(M_TRIM_THRESHOLD)
+    mallopt(M_MMAP_MAX, 0);
+    mallopt(M_TRIM_THRESHOLD, -1);
+#endif
+}
+
 // Nothing of the filter throws but an allocation of the C++ library, and nothing catches it.
 // Buffers hold whole commands then: halftoning, which allocates, is over when a bitmap begins.
 [[noreturn]] void endWithoutMemory() {
@@ -46,6 +59,7 @@ void bufferStandardStreams() {
 void prepareProcess() {
     occupyStandardStreams();
     bufferStandardStreams();
+    keepFreedMemory();
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
     std::set_terminate(endWithoutMemory);

@@ -1,17 +1,11 @@
 #pragma once
 
-#include <cstdio>
-#include <memory>
+#include <span>
 
-/// Closes a recording file at the end of the job.
-struct CFileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
+#include "driver/own_file.h"
 
-/// A copy of everything the printer receives; null when nothing is recorded.
-using RecordingFile = std::unique_ptr<std::FILE, CFileCloser>;
-
-/// Creates the recording file `name` anew, for this user's eyes only, and logs its name. Null,
-/// with one error line, when that fails or something else stands there: the job prints without
-/// it.
-RecordingFile openRecordingFile(const char* name);
+/// Creates a recording of everything that the printer receives, for this user's eyes only, and logs
+/// its name. Where something bears the name already, "-2", "-3" and so on stand in front of its
+/// ".bin", in `name` too. Null, with one error line, when no file can be made: the job prints
+/// without it.
+OwnedFile openRecordingFile(std::span<char> name);

@@ -5,7 +5,6 @@
 
 #include "driver/log.h"
 #include "filter/current_printer.h"
-#include "filter/tspl_page_commands.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <cstdio>
 
 #include "filter/cancellation.h"
-#include "filter/tspl_page_commands.h"
+#include "filter/tspl_commands.h"
 #include "image/byte_words.h"
 
 namespace {

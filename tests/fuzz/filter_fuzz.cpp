@@ -50,11 +50,15 @@ void forgetWrittenFiles() {
 
 }  // namespace
 
-// Stands in for the driver's own: what the filter leaves behind is kept in memory.
-std::FILE* openOwnFile(const char* path, mode_t /*permissions*/) {
+// Stand in for the driver's own: what the filter leaves behind is kept in memory.
+OwnedFile openNewFile(const char* path, mode_t /*permissions*/) {
     WrittenFile& file = sWrittenFiles.emplace_back();
     file.path = path;
-    return open_memstream(&file.bytes, &file.size);
+    return OwnedFile(open_memstream(&file.bytes, &file.size));
+}
+
+OwnedFile replaceOwnFile(const char* path, mode_t permissions) {
+    return openNewFile(path, permissions);
 }
 
 namespace {

@@ -11,7 +11,8 @@
 std::string withoutAddresses(const std::string& log);
 
 /// Fails the current test wherever a filter process did not do exactly what the reference
-/// says: standard output, standard error, exit status, trace file and dumps.
+/// says: standard output, standard error, exit status, trace file and dumps. Lines about input that
+/// cannot be read are for tests of their own.
 void expectOutcome(const reference::Outcome& expected, const FilterResult& actual,
                    const SpoolFiles& files);
 

@@ -15,7 +15,7 @@ protected:
 
     DumpName() { printer.setImagePath(folder.path("shot_%d-%d-%d_%d_%d_%d_%ld.bmp")); }
 
-    std::string dump() const {
+    std::string dump() {
         const unsigned char pixels[] = {1, 2, 3, 4};
         return errorOutputOf([&] { printer.saveImage(pixels, 4, 1, 4, 8); });
     }
@@ -88,10 +88,44 @@ TEST_F(DumpName, UsesUpANumberEvenWhenTheFileCannotBeOpened) {
     EXPECT_EQ(page_index, index + 1);
 }
 
-TEST_F(DumpName, ReplacesAFileOfTheSameName) {
-    printer.setImagePath(folder.write("fixed.bmp", std::string(5000, 'x')));
-    dump();
-    EXPECT_EQ(readFile(folder.path("fixed.bmp")).size(), 1078U + 4);
+// The names of the coming seconds with this running number.
+std::set<std::string> comingNames(std::uint64_t index) {
+    std::set<std::string> names;
+    for (std::time_t time = std::time(nullptr); time < std::time(nullptr) + 20; ++time) {
+        names.insert("shot_" + dumpTime(*std::localtime(&time)) + "_" + std::to_string(index) +
+                     ".bmp");
+    }
+    return names;
+}
+
+TEST_F(DumpName, HasTheNextNumberWhereAJobOfTheSameSecondHasTheName) {
+    const TimeWindow window;
+    const std::uint64_t index = page_index;
+    std::size_t taken = 0;
+    for (const std::uint64_t number : {index, index + 1}) {
+        for (const std::string& name : comingNames(number)) {
+            folder.write(name, "of another job");
+            ++taken;
+        }
+    }
+    EXPECT_EQ(dump(), "");
+    EXPECT_TRUE(holds(window, index + 2));
+    EXPECT_EQ(page_index, index + 3);
+    EXPECT_EQ(folder.names().size(), taken + 1);
+    for (const std::string& name : comingNames(index)) {
+        if (folder.names().count(name) != 0) {
+            EXPECT_EQ(readFile(folder.path(name)), "of another job") << name;
+        }
+    }
+}
+
+TEST_F(DumpName, IsTriedForAThousandNumbers) {
+    printer.setImagePath(folder.write("fixed.bmp", "of another job"));
+    const std::uint64_t index = page_index;
+    EXPECT_EQ(dump(), "KestoPrinter::saveImage: unable to open the file " +
+                          folder.path("fixed.bmp") + "\n");
+    EXPECT_EQ(page_index, index + 1000);
+    EXPECT_EQ(readFile(folder.path("fixed.bmp")), "of another job");
 }
 
 TEST_F(DumpName, IsThatOfAFileForItsUserAlone) {
@@ -109,6 +143,7 @@ TEST_F(DumpName, DoesNotLeadThroughALinkThatSomebodyPlanted) {
     printer.setImagePath(path);
     EXPECT_EQ(dump(), "KestoPrinter::saveImage: unable to open the file " + path + "\n");
     EXPECT_EQ(readFile(target), "kept");
+    EXPECT_TRUE(std::filesystem::is_symlink(path));
 }
 
 TEST_F(DumpName, MayBeLong) {

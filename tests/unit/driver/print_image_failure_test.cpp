@@ -25,6 +25,7 @@ TEST_F(FailedPage, IsNotPrintedWhenItIsTheFirst) {
     EXPECT_TRUE(holds(log, "CRIT:rasterimage.CreateFromArray with grey failed!"));
     EXPECT_TRUE(holds(log, "ERROR:printImage: pimage is NULL, unable to print the image"));
     EXPECT_TRUE(printer.pages.empty());
+    EXPECT_EQ(printer.getPageOutcome(), KestoPrinter::PageOutcome::LeftOut);
 }
 
 TEST_F(FailedPage, IsLoggedToItsEnd) {
@@ -52,6 +53,7 @@ TEST_F(FailedPage, RepeatsThePageBefore) {
     EXPECT_FALSE(holds(log, "ERROR:printImage: pimage is NULL, unable to print the image"));
     ASSERT_EQ(printer.pages.size(), 2U);
     EXPECT_EQ(printer.pages[1], (TestPrinter::PrintedPage{Bytes(8, 1), 4, 2, 4}));
+    EXPECT_EQ(printer.getPageOutcome(), KestoPrinter::PageOutcome::Repeated);
 }
 
 TEST_F(FailedPage, DumpsThePageBeforeAgain) {
@@ -66,6 +68,7 @@ TEST_F(FailedPage, DoesNotStopTheNextOne) {
     print(0);
     print(4);
     EXPECT_EQ(printer.pages.size(), 1U);
+    EXPECT_EQ(printer.getPageOutcome(), KestoPrinter::PageOutcome::Printed);
 }
 
 }  // namespace

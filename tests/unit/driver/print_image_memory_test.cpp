@@ -55,8 +55,10 @@ struct Attempt {
             printer.printImage(page.data(), side, side, side);
         });
         pages = printer.pages;
+        outcome = printer.getPageOutcome();
     }
 
+    KestoPrinter::PageOutcome outcome;
     std::vector<TestPrinter::PrintedPage> pages;
     std::string log;
 };
@@ -88,8 +90,46 @@ TEST_F(PageWithoutMemory, ForItsHalftoneIsPrintedWithoutOneAndThatIsSaid) {
                              "RasterImage::Create can't allocate memory\n") != std::string::npos,
             grey)
             << ordinal;
+        EXPECT_EQ(attempt.outcome == KestoPrinter::PageOutcome::WithoutHalftone, grey) << ordinal;
+        EXPECT_EQ(attempt.outcome == KestoPrinter::PageOutcome::LeftOut, attempt.pages.empty())
+            << ordinal;
     }
     EXPECT_EQ(unhalftoned, 1);
+}
+
+// Of either path, with every step that makes an image: where one is lost, nothing is printed, and
+// above all not the page before.
+TEST_F(PageWithoutMemory, ForAStepOfALaterPageNeverPrintsAnotherPageInItsPlace) {
+    const reference::Bytes first = noise(side * side, 1);
+    const reference::Bytes second = noise(side * side, 2);
+    for (const DitherType type : {DitherType::None, DitherType::Tattoo}) {
+        TestPrinter good;
+        setProperties(good,
+                      {.halftoneType = static_cast<int>(type), .mirror = true, .rotate180 = true});
+        errorOutputOf([&] { good.printImage(second.data(), side, side, side); });
+        int leftOut = 0;
+        for (int ordinal = 1; ordinal <= mostBuffers; ++ordinal) {
+            TestPrinter other;
+            setProperties(
+                other,
+                {.halftoneType = static_cast<int>(type), .mirror = true, .rotate180 = true});
+            errorOutputOf([&] {
+                other.printImage(first.data(), side, side, side);
+                const FailingAllocation failure(ordinal);
+                other.printImage(second.data(), side, side, side);
+            });
+            const auto outcome = other.getPageOutcome();
+            EXPECT_NE(outcome, KestoPrinter::PageOutcome::Repeated) << ordinal;
+            if (outcome == KestoPrinter::PageOutcome::LeftOut) {
+                ++leftOut;
+                EXPECT_EQ(other.pages.size(), 1U) << ordinal;
+            } else if (outcome == KestoPrinter::PageOutcome::Printed) {
+                ASSERT_EQ(other.pages.size(), 2U) << ordinal;
+                EXPECT_EQ(other.pages[1], good.pages[0]) << ordinal;
+            }
+        }
+        EXPECT_GE(leftOut, 4);  // the two buffers, the turned and the mirrored image
+    }
 }
 
 }  // namespace

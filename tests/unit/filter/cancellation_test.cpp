@@ -2,6 +2,7 @@
 #include "filter/cancellation.h"
 
 #include <fcntl.h>
+#include <sys/resource.h>
 
 #include <cerrno>
 #include <csignal>
@@ -134,6 +135,23 @@ TEST(Cancellation, LeavesTheErrorNumberOfWhatItInterrupts) {
                   return verdict(errno == ENOSPC);
               }),
               held);
+}
+
+TEST(Cancellation, IsLeftToTheSignalItselfWhereNoDescriptorIsLeft) {
+    const TemporaryFolder folder;
+    const std::string log = folder.path("log");
+    EXPECT_EQ(endOfChild([&log] {
+                  std::freopen(log.c_str(), "w", stderr);
+                  std::signal(SIGTERM, SIG_IGN);
+                  const rlimit none = {0, 0};
+                  setrlimit(RLIMIT_NOFILE, &none);
+                  heedCancellation(0);
+                  std::fflush(stderr);
+                  std::raise(SIGTERM);
+                  return held;
+              }),
+              -SIGTERM);
+    EXPECT_EQ(readFile(log), "ERROR:SIGTERM ends the filter wherever it is: Too many open files\n");
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // SIZE, GAP and BLINE, REFERENCE, DIRECTION and OFFSET.
 #include "filter/tspl_commands.h"
-#include "filter/tspl_page_commands.h"
 #include "tests/reference/tspl.h"
 #include "tests/unit/filter/test_support.h"
 

@@ -1,6 +1,5 @@
 // CLS, BITMAP and PRINT.
 #include "filter/tspl_commands.h"
-#include "filter/tspl_page_commands.h"
 #include "tests/unit/filter/test_support.h"
 
 namespace {

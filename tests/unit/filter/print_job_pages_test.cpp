@@ -150,4 +150,44 @@ TEST_F(JobPages, AreDroppedWhenTheirPixelsCannotBeRead) {
     EXPECT_TRUE(logHolds("DEBUG:PAGE: 1 1\n"));
 }
 
+TEST_F(JobPages, NameThePageThatTheRasterEndsInside) {
+    const std::string whole =
+        rasterStream({noisyPage(16, 4, 16, 1), noisyPage(16, 4, 16, 2)}, RasterForm::Plain);
+    const std::string raster = folder.write("cut.ras", whole.substr(0, whole.size() - 1));
+    const std::string output = printFile(raster);
+    EXPECT_TRUE(succeeded);
+    EXPECT_TRUE(
+        log.ends_with("ERROR:Unable to read page 2: the raster ends inside it or is damaged\n"))
+        << log;
+    EXPECT_TRUE(output.ends_with("CLS\r\n"));
+}
+
+TEST_F(JobPages, AreNoneInWhatIsNoRasterAndThatIsSaid) {
+    for (const char* document : {"", "Ra", "%PDF-1.4 is no raster"}) {
+        const std::string output = printFile(folder.write("page.pdf", document));
+        EXPECT_TRUE(succeeded);
+        EXPECT_TRUE(log.ends_with("ERROR:Unable to read the document: it is no raster\n")) << log;
+        EXPECT_EQ(output, "");
+    }
+}
+
+// No image can be made of a page without columns.
+TEST_F(JobPages, NameThePageThatIsNotPrintedAndTheOneThatIsPrintedTwice) {
+    const Page nothing = noisyPage(0, 2, 16, 1);
+    const Page page = noisyPage(16, 2, 16, 2);
+    const std::string output = print({nothing, page, nothing});
+    const auto count = [this](const std::string& line) {
+        return log.find(line) != std::string::npos;
+    };
+    EXPECT_TRUE(count("\nERROR:Page 1 was not printed\n")) << log;
+    EXPECT_FALSE(count("ERROR:Page 2"));
+    EXPECT_TRUE(count("\nERROR:Page 3 was not printed; the page before it was, once more\n"));
+    std::size_t prints = 0;
+    for (std::size_t at = output.find("PRINT "); at != std::string::npos;
+         at = output.find("PRINT ", at + 1)) {
+        ++prints;
+    }
+    EXPECT_EQ(prints, 2U);
+}
+
 }  // namespace

@@ -9,10 +9,13 @@ namespace {
 class Recording : public testing::Test {
 protected:
     TemporaryFolder folder;
-    RecordingFile file;
+    OwnedFile file;
+    char name[256] = {};
 
+    // `name` then holds the name that was taken.
     std::string open(const std::string& path) {
-        return errorOutputOf([&] { file = openRecordingFile(path.c_str()); });
+        std::snprintf(name, sizeof name, "%s", path.c_str());
+        return errorOutputOf([&] { file = openRecordingFile(name); });
     }
 };
 
@@ -31,10 +34,39 @@ TEST_F(Recording, KeepsWhatIsWrittenWhenItIsClosed) {
     EXPECT_EQ(readFile(folder.path("job.bin")), "CLS\r\n");
 }
 
-TEST_F(Recording, ReplacesAFileOfTheSameName) {
-    open(folder.write("job.bin", "old content"));
-    file.reset();
-    EXPECT_EQ(readFile(folder.path("job.bin")), "");
+TEST_F(Recording, LeavesAFileOfTheSameNameAloneAndTakesTheNextName) {
+    const std::string first = folder.write("job.bin", "of another job");
+    const std::string second = folder.write("job-2.bin", "of a third one");
+    EXPECT_EQ(open(first), "DEBUG:Filter data output to: " + folder.path("job-3.bin") + "\n");
+    EXPECT_EQ(name, folder.path("job-3.bin"));
+    EXPECT_EQ(readFile(first), "of another job");
+    EXPECT_EQ(readFile(second), "of a third one");
+    EXPECT_EQ(folder.names(), (std::set<std::string>{"job.bin", "job-2.bin", "job-3.bin"}));
+}
+
+TEST_F(Recording, HasItsNumberAtTheEndOfANameWithoutEnding) {
+    open(folder.write("job", ""));
+    EXPECT_EQ(name, folder.path("job-2"));
+}
+
+// The longest name that the settings hold: a number does not fit any more.
+TEST_F(Recording, IsNoneWhereNoNumberFitsBehindATakenName) {
+    const std::string fileName(255 - folder.path("").size(), 'n');
+    const std::string path = folder.write(fileName, "of another job");
+    ASSERT_EQ(path.size(), 255U);
+    EXPECT_EQ(open(path), "ERROR:Unable to open the recording file " + path + ": " +
+                              std::strerror(EEXIST) + "\n");
+    EXPECT_EQ(file, nullptr);
+}
+
+TEST_F(Recording, IsNoneWhereAThousandNamesAreTaken) {
+    folder.write("job.bin", "");
+    for (int number = 2; number <= 1000; ++number) {
+        folder.write("job-" + std::to_string(number) + ".bin", "");
+    }
+    EXPECT_TRUE(open(folder.path("job.bin")).starts_with("ERROR:Unable to open the recording"));
+    EXPECT_EQ(file, nullptr);
+    EXPECT_EQ(folder.names().size(), 1000U);
 }
 
 TEST_F(Recording, IsForItsUserAlone) {
@@ -44,13 +76,11 @@ TEST_F(Recording, IsForItsUserAlone) {
               perms::owner_read | perms::owner_write);
 }
 
-TEST_F(Recording, IsNoneWhereSomebodyPlantedALink) {
+TEST_F(Recording, IsNotWrittenThroughALinkThatSomebodyPlanted) {
     const std::string target = folder.write("target", "kept");
-    const std::string path = folder.path("job.bin");
-    std::filesystem::create_symlink(target, path);
-    EXPECT_EQ(open(path), "ERROR:Unable to open the recording file " + path + ": " +
-                              std::strerror(ELOOP) + "\n");
-    EXPECT_EQ(file, nullptr);
+    std::filesystem::create_symlink(target, folder.path("job.bin"));
+    open(folder.path("job.bin"));
+    EXPECT_EQ(name, folder.path("job-2.bin"));
     EXPECT_EQ(readFile(target), "kept");
 }
 
