@@ -48,7 +48,9 @@ TEST_F(FailingOutput, ThatIsFullEndsAJobWithoutPagesToo) {
     const MemoryFile input;
     RunningFilter filter(call, input.descriptor(), full);
     EXPECT_EQ(filter.status(), 1);
-    EXPECT_EQ(complaintsIn(filter.log()), noSpace);
+    reference::Lines complaints = {"ERROR:Unable to read the document: it is no raster"};
+    complaints.insert(complaints.end(), noSpace.begin(), noSpace.end());
+    EXPECT_EQ(complaintsIn(filter.log()), complaints);
     close(full);
 }
 
