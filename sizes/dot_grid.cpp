@@ -1,0 +1,83 @@
+#include "sizes/dot_grid.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "sizes/findable_points.h"
+
+namespace sizes {
+namespace {
+
+constexpr int dotsPerByte = 8;
+
+// Lengths are kept in mm, and an inch size that lies just on half a dot comes out a hair below.
+constexpr double hairOfADot = 1e-6;
+
+double inDots(double millimetres, int dpi) {
+    return millimetres / millimetresPerInch * dpi;
+}
+
+double inPoints(int dots, int dpi) {
+    return dots * pointsPerInch / dpi;
+}
+
+bool isTooSmall(const DotSize& dots) {
+    return dots.columns < fewestDots || dots.rows < fewestDots;
+}
+
+struct FindableLength {
+    int dots;
+    double points;
+};
+
+// The largest length in steps of some dots that every converter finds.
+std::optional<FindableLength> largestFindable(int dots, int step, int dpi) {
+    for (; dots >= fewestDots; dots -= step) {
+        if (const auto points = findablePoints(dots, dpi)) {
+            return FindableLength{dots, *points};
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+int dotsAcross(double millimetres, int dpi) {
+    const double dots = inDots(millimetres + edgeTolerance, dpi) + hairOfADot;
+    return dotsPerByte * static_cast<int>(std::floor(dots / dotsPerByte));
+}
+
+int dotsDown(double millimetres, int dpi) {
+    return static_cast<int>(std::floor(inDots(millimetres, dpi) + 0.5 + hairOfADot));
+}
+
+DotSize dotsOf(const NominalSize& size, int dpi) {
+    const int columns = dotsAcross(size.width, dpi);
+    const int rows = dotsDown(size.height, dpi);
+    return {columns, size.width <= size.height ? std::max(rows, columns) : rows};
+}
+
+NominalSize printedSize(const DotSize& dots, int dpi) {
+    return inMillimetres(dots.columns * millimetresPerInch / dpi,
+                         dots.rows * millimetresPerInch / dpi);
+}
+
+std::optional<LabelPage> offeredPage(const NominalSize& size, int dpi) {
+    const DotSize wanted = dotsOf(size, dpi);
+    const auto across = largestFindable(wanted.columns, dotsPerByte, dpi);
+    const auto down = largestFindable(wanted.rows, 1, dpi);
+    if (!across || !down) {
+        return std::nullopt;
+    }
+    return LabelPage{{across->dots, down->dots}, {across->points, down->points}};
+}
+
+std::optional<LabelPage> exactPage(const NominalSize& size, int dpi) {
+    const DotSize dots = dotsOf(size, dpi);
+    if (isTooSmall(dots)) {
+        return std::nullopt;
+    }
+    return LabelPage{dots, {inPoints(dots.columns, dpi), inPoints(dots.rows, dpi)}};
+}
+
+}  // namespace sizes

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <optional>
+
+#include "sizes/nominal_size.h"
+
+namespace sizes {
+
+/// Dots across and along the feed of the printer.
+struct DotSize {
+    int columns = 0;
+    int rows = 0;
+    friend bool operator==(const DotSize&, const DotSize&) = default;
+};
+
+/// Width and height of a page in points, 1/72 inch.
+struct PointSize {
+    double width = 0;
+    double height = 0;
+};
+
+/// A page of whole dots, and the points that mean it to CUPS's converters.
+struct LabelPage {
+    DotSize dots;
+    PointSize points;
+};
+
+/// What a printer prints at least, in dots either way.
+inline constexpr int fewestDots = 8;
+
+/// How far a page may reach over the label's edge, in mm: labels are not cut more exactly.
+inline constexpr double edgeTolerance = 0.15;
+
+/// Dots across a label: a multiple of 8, for a page of another width prints sheared, that reaches
+/// over the edge by no more than the tolerance. At 203 dpi 100 mm are 799.2 dots and give 800.
+int dotsAcross(double millimetres, int dpi);
+
+/// Dots along the feed: the nearest number.
+int dotsDown(double millimetres, int dpi);
+
+/// The page of a label in dots. Where the label is not wider than tall the page is not either
+/// (rows are added, within the tolerance): CUPS would take it for landscape and turn it.
+DotSize dotsOf(const NominalSize& size, int dpi);
+
+/// The size of so many dots.
+NominalSize printedSize(const DotSize& dots, int dpi);
+
+/// The page for a description that is installed, whose points every converter has to find by
+/// itself among those of the other sizes: the largest one up to dotsOf that both of CUPS's
+/// converters print with this number of dots. Below 25 mm it can be up to 3 mm smaller than the
+/// label. Nothing when the label has no such page of the fewest dots or more.
+std::optional<LabelPage> offeredPage(const NominalSize& size, int dpi);
+
+/// The page of exactly dotsOf, for the description of one job (see job_description.h). Nothing
+/// when that is less than the fewest dots.
+std::optional<LabelPage> exactPage(const NominalSize& size, int dpi);
+
+}  // namespace sizes
