@@ -4,7 +4,6 @@
 #include <charconv>
 
 #include "sizes/ascii.h"
-#include "sizes/size_spelling.h"
 
 namespace sizes {
 namespace {
@@ -67,15 +66,6 @@ std::optional<double> takeDecimal(std::string_view& text) {
     return read.ec == std::errc() ? std::optional(value) : std::nullopt;
 }
 
-bool isLabelLength(double millimetres) {
-    return millimetres >= shortestLength && millimetres <= longestLength;
-}
-
-std::optional<NominalSize> labelSize(const NominalSize& size) {
-    return isLabelLength(size.width) && isLabelLength(size.height) ? std::optional(size)
-                                                                   : std::nullopt;
-}
-
 }  // namespace
 
 std::optional<Dimensions> parseDimensions(std::string_view text) {
@@ -90,7 +80,7 @@ std::optional<Dimensions> parseDimensions(std::string_view text) {
 std::optional<NominalSize> sizeOf(const Dimensions& dimensions, std::string_view unit) {
     for (const UnitRule& rule : sUnits) {
         if (equalsIgnoringCase(rule.name, unit)) {
-            return labelSize(rule.size(dimensions.width, dimensions.height));
+            return rule.size(dimensions.width, dimensions.height);
         }
     }
     return std::nullopt;
@@ -105,7 +95,7 @@ std::optional<NominalSize> parsePointsName(std::string_view name) {
         return std::nullopt;
     }
     const auto height = takeDecimal(name);
-    return height && name.empty() ? labelSize(inPoints(*width, *height)) : std::nullopt;
+    return height && name.empty() ? std::optional(inPoints(*width, *height)) : std::nullopt;
 }
 
 }  // namespace sizes

@@ -18,8 +18,7 @@ struct Dimensions {
 /// letters behind them.
 std::optional<Dimensions> parseDimensions(std::string_view text);
 
-/// The size in a unit: mm, cm, m, in, ft or pt in any case of letters. Nothing for another unit
-/// and for lengths that no label has.
+/// The size in a unit: mm, cm, m, in, ft or pt in any case of letters. Nothing for another unit.
 std::optional<NominalSize> sizeOf(const Dimensions& dimensions, std::string_view unit);
 
 /// "w288h432", in points.

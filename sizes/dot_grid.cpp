@@ -13,8 +13,13 @@ constexpr int dotsPerByte = 8;
 // Lengths are kept in mm, and an inch size that lies just on half a dot comes out a hair below.
 constexpr double hairOfADot = 1e-6;
 
+// Of a length that is no number nothing is left, and no more than there can be of a long one.
+double withinReason(double millimetres) {
+    return millimetres > 0 ? std::min(millimetres, longestLength) : 0;
+}
+
 double inDots(double millimetres, int dpi) {
-    return millimetres / millimetresPerInch * dpi;
+    return withinReason(millimetres) / millimetresPerInch * dpi;
 }
 
 double inPoints(int dots, int dpi) {

@@ -33,6 +33,7 @@ inline constexpr double edgeTolerance = 0.15;
 
 /// Dots across a label: a multiple of 8, for a page of another width prints sheared, that reaches
 /// over the edge by no more than the tolerance. At 203 dpi 100 mm are 799.2 dots and give 800.
+/// Lengths over the longest that a label may have count as that one.
 int dotsAcross(double millimetres, int dpi);
 
 /// Dots along the feed: the nearest number.

@@ -19,6 +19,10 @@ std::string inItsUnit(double millimetres, LengthUnit unit) {
     return lengthText(unit == LengthUnit::Inch ? millimetres / millimetresPerInch : millimetres);
 }
 
+bool isLabelLength(double millimetres) {
+    return millimetres >= shortestLength && millimetres <= longestLength;
+}
+
 const char* nameOf(LengthUnit unit) {
     return unit == LengthUnit::Inch ? "in" : "mm";
 }
@@ -38,6 +42,10 @@ NominalSize inPoints(double width, double height) {
         return inInches(width / pointsPerInch, height / pointsPerInch);
     }
     return inMillimetres(hundredthsOfMillimetres(width), hundredthsOfMillimetres(height));
+}
+
+bool isLabelSize(const NominalSize& size) {
+    return isLabelLength(size.width) && isLabelLength(size.height);
 }
 
 NominalSize turned(const NominalSize& size) {
@@ -68,7 +76,7 @@ std::string lengthText(double length, int decimals) {
         text.erase(text.find_last_not_of('0') + 1);
         text.erase(text.find_last_not_of('.') + 1);
     }
-    return text;
+    return text == "-0" ? "0" : text;
 }
 
 }  // namespace sizes

@@ -7,6 +7,11 @@ namespace sizes {
 inline constexpr double millimetresPerInch = 25.4;
 inline constexpr double pointsPerInch = 72;
 
+/// The largest length that is taken for a label's, in mm.
+inline constexpr double longestLength = 10000;
+/// The smallest one; CUPS knows no smaller length.
+inline constexpr double shortestLength = 0.01;
+
 /// The unit in which a size is named to people.
 enum class LengthUnit { Millimetre, Inch };
 
@@ -24,6 +29,9 @@ NominalSize inInches(double width, double height);
 /// The size of a page in points (1/72 inch). Named in inches when both lengths are whole eighths
 /// of an inch, else in mm and rounded to hundredths, as CUPS rounds.
 NominalSize inPoints(double width, double height);
+
+/// Whether both lengths are ones that a label may have.
+bool isLabelSize(const NominalSize& size);
 
 /// Width and height swapped.
 NominalSize turned(const NominalSize& size);

@@ -91,7 +91,10 @@ BareName bareName(std::string_view name) {
 std::optional<NominalSize> parseSizeSpelling(std::string_view name) {
     const BareName bare = bareName(name);
     const auto size = uprightSize(bare.name);
-    return size && bare.transverse ? turned(*size) : size;
+    if (!size || !isLabelSize(*size)) {
+        return std::nullopt;
+    }
+    return bare.transverse ? turned(*size) : size;
 }
 
 std::optional<NominalSize> parsePlainSize(std::string_view text) {

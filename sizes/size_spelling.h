@@ -7,11 +7,6 @@
 
 namespace sizes {
 
-/// The largest length that is taken for a label's, in mm.
-inline constexpr double longestLength = 10000;
-/// The smallest one; CUPS knows no smaller length.
-inline constexpr double shortestLength = 0.01;
-
 /// A size's name without what CUPS puts behind it.
 struct BareName {
     std::string_view name;    ///< points into the text it was read from
@@ -35,8 +30,8 @@ BareName bareName(std::string_view name);
 /// a length that no label has. Does not depend on the locale.
 std::optional<NominalSize> parseSizeSpelling(std::string_view name);
 
-/// A size as people name it to kesto-tspl-size: width, "x", height and the unit, mm or in;
-/// plain decimals and nothing around them.
+/// A size as people name it to kesto-tspl-size: width, "x", height and the unit, mm or in; plain
+/// decimals of any value and nothing around them.
 std::optional<NominalSize> parsePlainSize(std::string_view text);
 
 }  // namespace sizes
