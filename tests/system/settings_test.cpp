@@ -131,4 +131,37 @@ TEST(Settings, TheWholeStreamOfASmallLabelIsAsWrittenHere) {
                     result.standardOutput, "standard output");
 }
 
+// The bits of the only page in a stream.
+std::string bitmapIn(const std::string& stream, std::size_t bytes) {
+    const std::size_t end = stream.rfind("\r\nPRINT ");
+    return end == std::string::npos || end < bytes ? "" : stream.substr(end - bytes, bytes);
+}
+
+// What a page of 64 × 40 dots is printed as.
+std::string printedBits(int halftoneType, int negativeImage) {
+    reference::Job job = labelJob({greyPage(64, 40)});
+    job.settings.halftoneType = halftoneType;
+    job.settings.negativeImage = negativeImage;
+    const TemporaryFolder folder;
+    const SpoolFiles files;
+    const FilterResult result = runFilter(callFor(job, folder));
+    files.takeDumps();
+    EXPECT_EQ(result.status, 0);
+    return bitmapIn(result.standardOutput, 320);
+}
+
+TEST(Settings, ANegativeImageOfMinusOneInvertsAStencil) {
+    std::string inverted = printedBits(8, 0);
+    EXPECT_NE(inverted, std::string(320, '\0'));
+    for (char& bits : inverted) {
+        bits = static_cast<char>(~bits);
+    }
+    EXPECT_EQ(printedBits(8, -1), inverted);
+}
+
+TEST(Settings, ANegativeImageOfMinusOneLeavesAnOrdinaryPageWithoutADot) {
+    EXPECT_NE(printedBits(0, 0), std::string(320, '\0'));
+    EXPECT_EQ(printedBits(0, -1), std::string(320, '\0'));
+}
+
 }  // namespace
