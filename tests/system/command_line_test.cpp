@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "tests/reference/job_log.h"
 #include "tests/reference/tspl.h"
@@ -78,6 +79,35 @@ TEST(CommandLine, APaperWidthOfZeroEndsTheJobWithBothLengthsInTheMessage) {
     reference::Job job = labelJob({greyPage(8, 1)});
     job.ppdSize = {true, 0, 432, 0, 0, 0, 432};
     expectPrintsAsReference(job);
+}
+
+// 0.0000028 × 0.3528 mm are 0.00000098784, 0.000003 × 0.3528 mm are 0.0000010584: the limit of
+// 0.000001 lies between them. Both look the same in the log.
+TEST(CommandLine, APaperOfLessThanAMillionthOfAMillimetreEndsTheJob) {
+    const TemporaryFolder folder;
+    reference::Job job = labelJob({greyPage(8, 1)});
+    for (const auto& [width, length] : {std::pair(0.0000028F, 432.0F), {288.0F, 0.0000028F}}) {
+        job.ppdSize = {true, width, length, 0, 0, width, length};
+        const FilterResult result = runFilter(callFor(job, folder));
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.standardOutput, "");
+        const std::string line =
+            width < 1 ? "(0.000001, 152.409607)\n" : "(101.606400, 0.000001)\n";
+        EXPECT_TRUE(
+            result.standardError.ends_with("\nERROR: Paper size must not less than 1.0 : " + line))
+            << result.standardError;
+    }
+}
+
+TEST(CommandLine, APaperOfAMillionthOfAMillimetreIsPrintedOn) {
+    reference::Job job = labelJob({greyPage(8, 1)});
+    job.ppdSize = {true, 0.000003F, 0.000003F, 0, 0, 0.000003F, 0.000003F};
+    const TemporaryFolder folder;
+    const SpoolFiles files;
+    const FilterResult result = runFilter(callFor(job, folder));
+    files.takeDumps();
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(result.standardOutput.ends_with("\r\nPRINT 1,1\r\n"));
 }
 
 TEST(CommandLine, TheCopiesArgumentHasNoEffectButTheRasterHeaderHas) {

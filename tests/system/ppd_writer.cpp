@@ -35,9 +35,9 @@ void PpdWriter::setPageSize(const std::string& name, const reference::PpdSize& s
     setChoice("PageSize", name);
     pageSize_ = "*DefaultPageRegion: " + name + "\n*DefaultImageableArea: " + name +
                 "\n*DefaultPaperDimension: " + name + "\n" +
-                formatted("*ImageableArea %s: \"%.4f %.4f %.4f %.4f\"\n", name.c_str(),
+                formatted("*ImageableArea %s: \"%.9f %.9f %.9f %.9f\"\n", name.c_str(),
                           wide(size.left), wide(size.bottom), wide(size.right), wide(size.top)) +
-                formatted("*PaperDimension %s: \"%.4f %.4f\"\n", name.c_str(), wide(size.width),
+                formatted("*PaperDimension %s: \"%.9f %.9f\"\n", name.c_str(), wide(size.width),
                           wide(size.length));
 }
 
