@@ -13,7 +13,9 @@ namespace fs = std::filesystem;
 
 // Runs a job of one page with the given recording switch and base name.
 struct RecordedRun {
-    RecordedRun(const std::string& switchChoice, const std::string& base) {
+    RecordedRun(const std::string& switchChoice, const std::string& base,
+                const reference::PpdSize& paper = {true, 288, 432, 0, 0, 288, 432}) {
+        job.ppdSize = paper;
         PpdWriter ppd = ppdFor(job.settings, job.ppdSize);
         ppd.setChoice("RecordPrinterCommands", switchChoice);
         if (!base.empty()) {
@@ -77,6 +79,21 @@ TEST(Recording, ThatCannotBeOpenedIsReportedOnceAndTheJobPrints) {
     run.job.recordingName = log.substr(start, log.find(": No such", start) - start);
     run.job.recordingError = "No such file or directory";
     expectOutcome(reference::runJob(run.job), run.result, run.files);
+}
+
+// The recording begins before the paper is looked at.
+TEST(Recording, OfAJobThatEndsAtItsPaperSizeIsEmpty) {
+    const TemporaryFolder target;
+    const RecordedRun run("1", target.path("rec"), {true, 0, 432, 0, 0, 0, 432});
+    EXPECT_EQ(run.result.status, 1);
+    EXPECT_EQ(run.result.standardOutput, "");
+    ASSERT_EQ(target.names().size(), 1U);
+    const std::string name = target.path(*target.names().begin());
+    EXPECT_EQ(fs::file_size(name), 0U);
+    EXPECT_TRUE(run.result.standardError.ends_with(
+        "\nDEBUG:Filter data output to: " + name +
+        "\nERROR: Paper size must not less than 1.0 : (0.000000, 152.409607)\n"))
+        << run.result.standardError;
 }
 
 TEST(Recording, IsOffForZeroAndNegativeSwitches) {
