@@ -1,3 +1,4 @@
+#include "tests/support/test_memory.h"
 #include "tests/unit/driver/test_support.h"
 
 namespace {
@@ -57,6 +58,29 @@ TEST_F(PixelCopy, OfAFinishedPageTakesOnlyTheAreaAskedFor) {
 TEST_F(PixelCopy, OfAFinishedPageStopsAtTheEndOfTheTarget) {
     printer.copyProcessedPixels(&image, std::span(out).first(4), 3, 2, 3);
     EXPECT_EQ(out, (Bytes{0, 255, 2, 254, 77, 77, 77, 77, 77, 77, 77, 77}));
+}
+
+// Such an image still has the sizes that it was to have.
+class PixelCopyOfAnImageWithoutMemory : public PixelCopy {
+protected:
+    PixelCopyOfAnImageWithoutMemory() {
+        const NoMemory none;
+        image.Create(3, 2, 8, 0);
+    }
+};
+
+TEST_F(PixelCopyOfAnImageWithoutMemory, IsZeros) {
+    printer.copyPixels(image, out, 3, 2, 5);
+    EXPECT_EQ(out, (Bytes{0, 0, 0, 77, 77, 0, 0, 0, 77, 77, 77, 77}));
+}
+
+TEST_F(PixelCopyOfAnImageWithoutMemory,
+       OfAFinishedPageIsZerosAndTheirComplementOnNegativePrinting) {
+    printer.copyProcessedPixels(&image, out, 3, 1, 3);
+    EXPECT_EQ(Bytes(out.begin(), out.begin() + 4), (Bytes{0, 0, 0, 77}));
+    printer.setNegativePrint(true);
+    printer.copyProcessedPixels(&image, out, 3, 1, 3);
+    EXPECT_EQ(Bytes(out.begin(), out.begin() + 4), (Bytes{255, 255, 255, 77}));
 }
 
 }  // namespace
