@@ -1,6 +1,8 @@
 #include "tests/support/test_memory.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <map>
 
 namespace {
 
@@ -13,8 +15,18 @@ bool isToFail() {
     return sNoMemory || reached;
 }
 
-void* counted(void* block) {
-    sLiveBlocks += block != nullptr ? 1 : 0;
+// Sizes of the live blocks. Never destroyed: blocks can be freed later than that. The calls of the
+// map itself are the standard library's, which are not led here.
+std::map<const void*, std::size_t>& sizes() {
+    static auto& sizes = *new std::map<const void*, std::size_t>;
+    return sizes;
+}
+
+void* counted(void* block, std::size_t size) {
+    if (block != nullptr) {
+        ++sLiveBlocks;
+        sizes()[block] = size;
+    }
     return block;
 }
 
@@ -34,15 +46,18 @@ void* __wrap_calloc(std::size_t count, std::size_t size);
 void __wrap_free(void* block);
 
 void* __wrap_malloc(std::size_t size) {
-    return isToFail() ? nullptr : counted(__real_malloc(size));
+    return isToFail() ? nullptr : counted(__real_malloc(size), size);
 }
 
 void* __wrap_calloc(std::size_t count, std::size_t size) {
-    return isToFail() ? nullptr : counted(__real_calloc(count, size));
+    return isToFail() ? nullptr : counted(__real_calloc(count, size), count * size);
 }
 
 void __wrap_free(void* block) {
-    sLiveBlocks -= block != nullptr ? 1 : 0;
+    if (block != nullptr) {
+        --sLiveBlocks;
+        sizes().erase(block);
+    }
     __real_free(block);
 }
 }
@@ -50,6 +65,11 @@ void __wrap_free(void* block) {
 
 std::ptrdiff_t liveBlocks() {
     return sLiveBlocks;
+}
+
+std::ptrdiff_t liveBlocksOf(std::size_t size) {
+    return std::count_if(sizes().begin(), sizes().end(),
+                         [size](const auto& block) { return block.second == size; });
 }
 
 NoMemory::NoMemory() {

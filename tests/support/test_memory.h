@@ -6,6 +6,9 @@
 /// Number of blocks from malloc and calloc that are not freed yet.
 std::ptrdiff_t liveBlocks();
 
+/// How many of them were asked for with this size in bytes.
+std::ptrdiff_t liveBlocksOf(std::size_t size);
+
 /// As long as it lives, malloc and calloc find no memory.
 class NoMemory {
 public:
