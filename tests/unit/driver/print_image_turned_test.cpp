@@ -34,9 +34,13 @@ protected:
         const FailingAllocation fourth(4);
         return print(height);
     }
-    static bool isLeftOut(const std::string& log) {
-        return log.find("\nERROR:printImage: pimage is NULL, unable to print the image\n") !=
-               std::string::npos;
+    // By what the log says and by what the printer says.
+    bool isLeftOut(const std::string& log) const {
+        const bool said = log.find(
+                              "\nERROR:PageProcess: The image of the page is lost: "
+                              "RasterImage::Create can't allocate memory\n") != std::string::npos;
+        EXPECT_EQ(printer.getPageOutcome() == KestoPrinter::PageOutcome::LeftOut, said);
+        return said;
     }
 };
 
@@ -70,7 +74,7 @@ std::string rowName(const testing::TestParamInfo<TurnedPageWithoutMemory::ParamT
 
 INSTANTIATE_TEST_SUITE_P(AllWays, TurnedPageWithoutMemory,
                          testing::Combine(testing::Values(Turn::Mirror, Turn::Rotate180),
-                                          testing::Values(DitherType::None),
+                                          testing::Values(DitherType::None, DitherType::Tattoo),
                                           testing::Values(width, width + 4)),
                          rowName);
 
