@@ -7,10 +7,12 @@
 namespace {
 
 std::ptrdiff_t sLiveBlocks = 0;
+std::ptrdiff_t sBlocksAskedFor = 0;
 bool sNoMemory = false;
 int sCallsToFailure = 0;  // 0 when no call is to fail
 
 bool isToFail() {
+    ++sBlocksAskedFor;
     const bool reached = sCallsToFailure > 0 && --sCallsToFailure == 0;
     return sNoMemory || reached;
 }
@@ -70,6 +72,10 @@ std::ptrdiff_t liveBlocks() {
 std::ptrdiff_t liveBlocksOf(std::size_t size) {
     return std::count_if(sizes().begin(), sizes().end(),
                          [size](const auto& block) { return block.second == size; });
+}
+
+std::ptrdiff_t blocksAskedFor() {
+    return sBlocksAskedFor;
 }
 
 NoMemory::NoMemory() {

@@ -9,6 +9,9 @@ std::ptrdiff_t liveBlocks();
 /// How many of them were asked for with this size in bytes.
 std::ptrdiff_t liveBlocksOf(std::size_t size);
 
+/// Number of calls of malloc and calloc so far.
+std::ptrdiff_t blocksAskedFor();
+
 /// As long as it lives, malloc and calloc find no memory.
 class NoMemory {
 public:

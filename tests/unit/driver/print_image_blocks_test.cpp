@@ -36,6 +36,11 @@ protected:
     // The working image, and on the stencil path the stencil.
     std::ptrdiff_t imagesOfThePath() const { return GetParam() == DitherType::Tattoo ? 2 : 1; }
     std::ptrdiff_t held() const { return liveBlocks() - blocksBefore; }
+    std::ptrdiff_t askedForBy(TestPrinter& printer, std::size_t rows) {
+        const std::ptrdiff_t before = blocksAskedFor();
+        print(printer, rows);
+        return blocksAskedFor() - before;
+    }
 };
 
 // The scratch block is as large as the page and the processing buffer twice as large. No image has
@@ -58,6 +63,17 @@ TEST_P(PageBlocks, AreThoseOfTheImagesBetweenPagesHoweverMany) {
         print(printer, rows);
         EXPECT_EQ(held(), imagesOfThePath());
     }
+}
+
+// The two buffers, and the images. A threshold makes one of a bit per dot and one of a byte out of
+// the page's; a stencil is made beside it.
+TEST_P(PageBlocks, OfTheSameSizeAreUsedAgainForTheImagesThatStay) {
+    TestPrinter printer;
+    const std::ptrdiff_t made = GetParam() == DitherType::Tattoo ? 0 : 2;
+    EXPECT_EQ(askedForBy(printer, height), 2 + imagesOfThePath() + made);
+    EXPECT_EQ(askedForBy(printer, height), 2 + made);
+    EXPECT_EQ(askedForBy(printer, height + 1), 2 + imagesOfThePath() + made);
+    EXPECT_EQ(askedForBy(printer, height + 1), 2 + made);
 }
 
 TEST_P(PageBlocks, AreAllGivenBackAtTheEnd) {
