@@ -124,6 +124,19 @@ std::size_t leastMemoryFor(const reference::Job& job) {
                        reference::runJob(job).standardOutput);
 }
 
+// The buffers and images of the first page serve the others: three differ, and all fit where one
+// does.
+TEST(ShortMemoryForOnePage, IsEnoughForAnyNumberOfTheSameSize) {
+    for (const int halftone : {0, 8}) {
+        reference::Job three =
+            labelJob({greyPage(800, 1000, 1), greyPage(800, 1000, 2), greyPage(800, 1000, 3)});
+        three.settings.halftoneType = halftone;
+        reference::Job one = three;
+        one.pages.resize(1);
+        EXPECT_LT(leastMemoryFor(three), leastMemoryFor(one) + 64) << halftone;
+    }
+}
+
 // Beyond what it takes for itself and its libraries, and for any number of pages.
 TEST(TakenMemory, IsTheDocumentedMultipleOfThePageAtMost) {
     constexpr std::size_t pageKibibytes = std::size_t{800} * 1000 / kibibyte;
