@@ -21,6 +21,7 @@ install(TARGETS rastertokestotspl DESTINATION ${KESTO_CUPS_SERVERBIN}/filter ${p
 install(PROGRAMS filter/imagetokestotspl DESTINATION ${KESTO_CUPS_SERVERBIN}/filter)
 install(TARGETS tsplpreview DESTINATION ${CMAKE_INSTALL_BINDIR} ${programs})
 install(PROGRAMS ppd/kesto-tspl-size DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(PROGRAMS packaging/kesto-tspl-clean DESTINATION ${CMAKE_INSTALL_SBINDIR})
 install(FILES ppd/kesto-tspl.drv DESTINATION ${KESTO_CUPS_DATADIR}/drv)
 # What a description includes lies here; in the folder above everything counts as a description.
 install(FILES ppd/kesto-tspl-de.po DESTINATION ${KESTO_CUPS_DATADIR}/ppdc)
@@ -28,6 +29,7 @@ install(FILES packaging/printer-driver-kesto-tspl.ppd-updater
     DESTINATION ${KESTO_CUPS_DATADIR}/ppd-updaters)
 install(FILES docs/man/tsplpreview.1 docs/man/kesto-tspl-size.1
     DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES docs/man/rastertokestotspl.8 DESTINATION ${CMAKE_INSTALL_MANDIR}/man8)
+install(FILES docs/man/rastertokestotspl.8 docs/man/kesto-tspl-clean.8
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/man8)
 install(FILES packaging/org.kesto.kesto_tspl.metainfo.xml
     DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
