@@ -46,6 +46,19 @@ reference::Lines complaintsIn(const std::string& log) {
     return lines;
 }
 
+std::size_t leastMemory(FilterCall call, const std::string& whole) {
+    std::size_t tooLittle = 0;
+    std::size_t enough = std::size_t{1} << 20;
+    while (enough - tooLittle > 16) {
+        const std::size_t middle = (enough + tooLittle) / 2;
+        call.addressSpace = middle * kibibyte;
+        const FilterResult result = runFilter(call);
+        const bool complete = result.status == 0 && result.standardOutput == whole;
+        (complete ? enough : tooLittle) = middle;
+    }
+    return enough;
+}
+
 FaultRuns::FaultRuns(const reference::Job& job) : job_(job), call_(callFor(job, folder_)) {
     call_.userId = ordinaryUser();
     call_.longestRun = longestRun;

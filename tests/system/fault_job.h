@@ -40,6 +40,11 @@ private:
 /// The lines of a log that are no traces, but for those of dumps that cannot be written.
 reference::Lines complaintsIn(const std::string& log);
 
+inline constexpr std::size_t kibibyte = 1024;
+
+/// Least address space in KiB, within 16, with which a call ends with status 0 and this output.
+std::size_t leastMemory(FilterCall call, const std::string& whole);
+
 /// An ordinary user: nobody.
 uid_t ordinaryUser();
 

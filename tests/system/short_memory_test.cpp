@@ -13,7 +13,6 @@ namespace {
 
 #ifndef KESTO_ADDRESS_SANITIZER
 
-constexpr std::size_t kibibyte = 1024;
 constexpr int notLoaded = 127;  // what the loader says of a program that it has no memory for
 
 class ShortMemory : public testing::TestWithParam<int> {
@@ -26,20 +25,6 @@ protected:
 
     reference::Job job_ = threePages();
 };
-
-// Least address space in KiB with which a call ends with status 0 and its whole output.
-std::size_t leastMemory(FilterCall call, const std::string& whole) {
-    std::size_t tooLittle = 0;
-    std::size_t enough = std::size_t{1} << 20;
-    while (enough - tooLittle > 16) {
-        const std::size_t middle = (enough + tooLittle) / 2;
-        call.addressSpace = middle * kibibyte;
-        const FilterResult result = runFilter(call);
-        const bool complete = result.status == 0 && result.standardOutput == whole;
-        (complete ? enough : tooLittle) = middle;
-    }
-    return enough;
-}
 
 struct Endings {
     std::size_t failed = 0;    // status 1
