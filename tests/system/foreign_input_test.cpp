@@ -56,6 +56,9 @@ std::string compressedFile(const std::string& content) {
 void expectNoPage(const FilterResult& result) {
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.standardOutput, std::string(64, '\n'));
+    EXPECT_TRUE(
+        result.standardError.ends_with("\nERROR:Unable to read the document: it is no raster\n"))
+        << result.standardError;
 }
 
 TEST(ForeignInput, ARasterThatIsCompressedAsAFileIsNone) {
