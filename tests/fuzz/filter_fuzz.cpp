@@ -101,8 +101,8 @@ struct RasterCloser {
 using Raster = std::unique_ptr<cups_raster_t, RasterCloser>;
 
 bool isPrinted(const reference::PageHeader& header) {
-    return header.bitsPerPixel == 8 && header.height != 0 && header.bytesPerLine >= header.width &&
-           header.bytesPerLine != 0;
+    return header.bitsPerPixel == 8 && header.height != 0 && header.bytesPerLine != 0 &&
+           !contradictsItself(header);
 }
 
 // The pages up to the first that ends the job; none of a stream with so many or such large pages
@@ -220,7 +220,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     job.ppdSize.width = settings.pageWidth / 0.3528F;
     job.ppdSize.length = settings.pageHeight / 0.3528F;
     job.pages = *pages;
-    const reference::Outcome expected = reference::runJob(job);
+    const bool refused = !pages->empty() && contradictsItself(pages->back().header);
+    if (refused) {
+        job.pages.pop_back();
+    }
+    reference::Outcome expected = reference::runJob(job);
+    expected.status = refused ? EXIT_FAILURE : expected.status;
 
     page_index = 0;
     CapturedStream output(stdout);

@@ -33,20 +33,12 @@ bool isTooSmall(float millimetres) {
     return 0.000001 >= static_cast<double>(millimetres);
 }
 
-bool hasSoundGeometry(const PageHeader& header) {
-    const std::uint64_t bytes = std::uint64_t{header.bytesPerLine} * header.height;
-    return header.bytesPerLine >= header.width && bytes <= 0xFFFFFFFF;
-}
-
 Next checkPage(Run& run, const PageHeader& header) {
     if (header.bitsPerPixel != 8) {
         return failJob(run, depthLine(header));
     }
     if (header.height == 0 || header.bytesPerLine == 0) {
         return endJob(run, 0);
-    }
-    if (!hasSoundGeometry(header)) {
-        return failJob(run, geometryLine(header));
     }
     return Next::kGoOn;
 }
@@ -83,7 +75,7 @@ Next startJob(Run& run, const Job& job, const Settings& settings) {
     run.printer.dumpFolderWritable = job.dumpFolderWritable;
     append(run.log, settingsLog(settings, job.ppdSize));
     if (!job.recordingName.empty()) {
-        run.log.push_back(recordingLine(job.recordingName, job.recordingError));
+        run.log.push_back(recordingLine(job.recordingName));
     }
     if (isTooSmall(settings.pageWidth) || isTooSmall(settings.pageHeight)) {
         return failJob(run, paperSizeLine(settings));

@@ -12,15 +12,14 @@
 namespace reference {
 
 /// A job. The settings' page size is not read: it comes from `ppdSize` and then from each
-/// page.
+/// page. The rows of every page hold its width, and its size in bytes fits 32 bits: what a filter
+/// makes of others is its own affair, and so is what it says beyond the lines of its steps.
 struct Job {
     Settings settings;
     PpdSize ppdSize;
     std::vector<Page> pages;
-    /// Name of the recording file, empty when recording is off.
+    /// Name of the recording file, empty when there is none.
     std::string recordingName;
-    /// The system's text for why the recording file could not be opened, empty when it could.
-    std::string recordingError;
     /// Whether the folder of the image dumps can be written.
     bool dumpFolderWritable = true;
 };

@@ -98,10 +98,7 @@ Lines settingsLog(const Settings& settings, const PpdSize& size) {
     return log;
 }
 
-std::string recordingLine(const std::string& name, const std::string& openError) {
-    if (!openError.empty()) {
-        return errorLine("Unable to open the recording file " + name + ": " + openError);
-    }
+std::string recordingLine(const std::string& name) {
     return debugLine("Filter data output to: " + name);
 }
 
@@ -116,18 +113,8 @@ std::string depthLine(const PageHeader& header) {
                                static_cast<int>(header.bitsPerPixel)));
 }
 
-std::string geometryLine(const PageHeader& header) {
-    return errorLine(
-        formatted("Unsupported page geometry: %u dots wide, %u bytes per line, %u lines!",
-                  header.width, header.bytesPerLine, header.height));
-}
-
 Lines pageStartLog(const Settings& settings, const PageHeader& header, int number) {
     Lines log;
-    if (header.xDpi == 0 || header.yDpi == 0) {
-        log.push_back(
-            formatted("WARN:Page without a resolution: %u x %u dpi!", header.xDpi, header.yDpi));
-    }
     trace(log, formatted("pageWidth: %f,pageHeight: %f", static_cast<double>(settings.pageWidth),
                          static_cast<double>(settings.pageHeight)));
     append(log, setUpLog(settings));

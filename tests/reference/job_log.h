@@ -26,9 +26,8 @@ Settings withPpdSize(const Settings& settings, const PpdSize& size);
 /// The lines of reading the settings. `settings` already holds the PPD file's page size.
 Lines settingsLog(const Settings& settings, const PpdSize& size);
 
-/// The line of switching recording on; `openError` is the system's text for why the file
-/// could not be opened, empty when it could.
-std::string recordingLine(const std::string& name, const std::string& openError);
+/// The line of switching recording on.
+std::string recordingLine(const std::string& name);
 
 /// The line that ends a job whose paper has no size.
 std::string paperSizeLine(const Settings& settings);
@@ -36,12 +35,7 @@ std::string paperSizeLine(const Settings& settings);
 /// The line that ends a job at a page of another depth than 8 bits.
 std::string depthLine(const PageHeader& header);
 
-/// The line that ends a job at a page whose rows cannot hold its width or whose size in bytes
-/// does not fit 32 bits.
-std::string geometryLine(const PageHeader& header);
-
-/// The lines from the page's size to its header, the trace of the set-up block included. A page
-/// without a resolution has a warning before them.
+/// The lines from the page's size to its header, the trace of the set-up block included.
 /// `settings` already holds the raster page's size; `number` counts pages from 1.
 Lines pageStartLog(const Settings& settings, const PageHeader& header, int number);
 

@@ -31,10 +31,8 @@ std::uint32_t numberIn(const Enumeration& field) {
     return number;
 }
 
-bool endsTheJob(const PageHeader& header) {
-    const std::uint64_t bytes = std::uint64_t{header.bytesPerLine} * header.height;
-    return header.bitsPerPixel != 8 || bytes == 0 || bytes > 0xFFFFFFFF ||
-           header.bytesPerLine < header.width;
+bool hasByteRows(const PageHeader& header) {
+    return header.bitsPerPixel == 8 && header.height != 0 && header.bytesPerLine != 0;
 }
 
 // False where the stream holds no such page.
@@ -71,6 +69,11 @@ PageHeader headerFrom(const cups_page_header2_t& cups) {
     return header;
 }
 
+bool contradictsItself(const PageHeader& header) {
+    const std::uint64_t bytes = std::uint64_t{header.bytesPerLine} * header.height;
+    return hasByteRows(header) && (header.bytesPerLine < header.width || bytes > 0xFFFFFFFF);
+}
+
 std::vector<Page> pagesIn(const std::string& stream, std::size_t mostBytes) {
     Source source = {&stream};
     cups_raster_t* raster = cupsRasterOpenIO(readFromString, &source, CUPS_RASTER_READ);
@@ -79,7 +82,7 @@ std::vector<Page> pagesIn(const std::string& stream, std::size_t mostBytes) {
     while (cupsRasterReadHeader2(raster, &header) != 0) {
         Page page;
         page.header = headerFrom(header);
-        const bool last = endsTheJob(page.header);
+        const bool last = !hasByteRows(page.header) || contradictsItself(page.header);
         page.readable = !last && readRows(raster, page, mostBytes);
         pages.push_back(page);
         if (last || !page.readable) {

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <regex>
 
+#include "tests/system/remarks.h"
+
 namespace {
 
 std::string hexadecimal(const std::string& decimal) {
@@ -32,12 +34,6 @@ void expectDumps(const std::vector<reference::Bytes>& expected,
 
 }  // namespace
 
-std::string withoutLostPages(const std::string& log) {
-    static const std::regex pattern(
-        "ERROR:(Unable to read |Page [0-9]+ was (not )?printed)[^\n]*\n");
-    return std::regex_replace(log, pattern, "");
-}
-
 std::string withoutAddresses(const std::string& log) {
     static const std::regex pattern("pointer address: ([0-9]+)");
     std::string result = log;
@@ -62,7 +58,7 @@ void expectOutcome(const reference::Outcome& expected, const FilterResult& actua
                    const SpoolFiles& files) {
     EXPECT_EQ(expected.status, actual.status);
     expectSameBytes(expected.standardOutput, actual.standardOutput, "standard output");
-    EXPECT_EQ(expected.standardError, withoutLostPages(withoutAddresses(actual.standardError)));
+    EXPECT_EQ(expected.standardError, withoutRemarks(withoutAddresses(actual.standardError)));
     EXPECT_EQ(expected.trace, files.takeTrace());
     expectDumps(expected.dumps, files.takeDumps());
 }

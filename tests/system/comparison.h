@@ -10,12 +10,8 @@
 /// the reference writes them. The two must agree: where they do not, they stay.
 std::string withoutAddresses(const std::string& log);
 
-/// A log without the lines that name what could not be read or printed as it should: the reference
-/// knows nothing of them, tests of their own do.
-std::string withoutLostPages(const std::string& log);
-
 /// Fails the current test wherever a filter process did not do exactly what the reference
-/// says: standard output, standard error, exit status, trace file and dumps.
+/// says: standard output, standard error without its remarks, exit status, trace file and dumps.
 void expectOutcome(const reference::Outcome& expected, const FilterResult& actual,
                    const SpoolFiles& files);
 

@@ -73,11 +73,19 @@ TEST(Recording, WithoutABaseNameGoesToTheCurrentFolder) {
 
 TEST(Recording, ThatCannotBeOpenedIsReportedOnceAndTheJobPrints) {
     RecordedRun run("1", "/nonexistent/folder/rec");
-    const std::string& log = run.result.standardError;
-    const std::size_t start = log.find("/nonexistent/folder/rec-");
+    std::string& log = run.result.standardError;
+    std::set<std::string> lines;
+    for (const std::string& stamp : run.files.timesSinceStart("-%Y%m%d%H%M%S.bin")) {
+        lines.insert("ERROR:Unable to open the recording file /nonexistent/folder/rec" + stamp +
+                     ": No such file or directory\n");
+    }
+    // Behind the settings, and else the job is one that records nothing.
+    const std::size_t start = log.find("ERROR:");
     ASSERT_NE(start, std::string::npos);
-    run.job.recordingName = log.substr(start, log.find(": No such", start) - start);
-    run.job.recordingError = "No such file or directory";
+    const std::string line = log.substr(start, log.find('\n', start) + 1 - start);
+    EXPECT_EQ(lines.count(line), 1U) << line;
+    EXPECT_TRUE(log.substr(0, start).ends_with("\nDEBUG:settings->pageHeight:152.409607\n"));
+    log.erase(start, line.size());
     expectOutcome(reference::runJob(run.job), run.result, run.files);
 }
 

@@ -1,10 +1,13 @@
 #include "tests/system/test_job.h"
 
+#include <gtest/gtest.h>
+
 #include <random>
 
 #include "tests/support/temporary_folder.h"
 #include "tests/system/comparison.h"
 #include "tests/system/ppd_writer.h"
+#include "tests/system/remarks.h"
 #include "tests/system/spool_files.h"
 
 using reference::Job;
@@ -62,5 +65,7 @@ void expectPrintsAsReference(const Job& job, const std::string& raster,
     call.program = program;
     call.standardInput = raster;
     const SpoolFiles files;
-    expectOutcome(reference::runJob(job), runFilter(call), files);
+    const FilterResult result = runFilter(call);
+    expectOutcome(reference::runJob(job), result, files);
+    EXPECT_TRUE(remarksIn(result.standardError) == remarksOn(job.pages)) << result.standardError;
 }
