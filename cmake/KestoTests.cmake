@@ -1,0 +1,55 @@
+# How programs of tests are made. A folder of tests has in its CMakeLists.txt
+#
+#   kesto_test_program(sizes_test
+#       LIBRARIES kesto_sizes
+#       SOURCES
+#       dot_grid_test.cpp
+#       label_size_test.cpp)
+#   kesto_discover_tests(sizes_test LABEL unit)
+#
+# and is named in tests/CMakeLists.txt.
+include(GoogleTest)
+
+# Tests gain little from an optimiser, and need no more debug information than lines.
+add_library(kesto_test_compile INTERFACE)
+target_link_libraries(kesto_test_compile INTERFACE kesto_compile GTest::gtest)
+target_compile_options(kesto_test_compile INTERFACE "$<$<CONFIG:RelWithDebInfo,Release>:-O0;-g1>")
+
+# Nearly all of a build is tests, and most of a test is the headers of GoogleTest and the standard
+# library: compiled once, here, they leave a third of the time. A test includes what it uses all
+# the same: scripts/tidy compiles it without this.
+file(CONFIGURE OUTPUT kesto_test_headers.cpp CONTENT "")
+add_library(kesto_test_headers OBJECT ${CMAKE_CURRENT_BINARY_DIR}/kesto_test_headers.cpp)
+target_link_libraries(kesto_test_headers PRIVATE kesto_test_compile)
+target_precompile_headers(kesto_test_headers PRIVATE
+    <gtest/gtest.h>
+    <algorithm> <array> <cstdint> <cstdio> <cstdlib> <cstring> <filesystem> <fstream> <functional>
+    <map> <memory> <numeric> <optional> <ostream> <regex> <set> <span> <sstream> <stdexcept> <string>
+    <string_view> <utility> <vector>)
+
+# kesto_test_sources(TARGET): compiles the sources of a target as those of tests
+function(kesto_test_sources target)
+    target_link_libraries(${target} PRIVATE kesto_test_compile)
+    target_precompile_headers(${target} REUSE_FROM kesto_test_headers)
+endfunction()
+
+# kesto_test_program(NAME [LIBRARIES LIBRARY...] SOURCES FILE...)
+function(kesto_test_program name)
+    cmake_parse_arguments(PARSE_ARGV 1 program "" "" "SOURCES;LIBRARIES")
+    add_executable(${name} ${program_SOURCES})
+    target_link_libraries(${name} PRIVATE ${program_LIBRARIES} GTest::gtest_main)
+    kesto_test_sources(${name})
+endfunction()
+
+# kesto_discover_tests(NAME LABEL LABEL [SPOOL] [OPTION...]): makes a test of CTest of every test in
+# a program. SPOOL is for tests that start the filter or print a page: they write to folders that
+# all processes share, under names that change by the second only, and run one at a time. What else
+# is given goes to gtest_discover_tests.
+function(kesto_discover_tests name)
+    cmake_parse_arguments(PARSE_ARGV 1 tests "SPOOL" "LABEL" "PROPERTIES")
+    if(tests_SPOOL)
+        list(APPEND tests_PROPERTIES RESOURCE_LOCK spool)
+    endif()
+    gtest_discover_tests(${name} ${tests_UNPARSED_ARGUMENTS} DISCOVERY_TIMEOUT 60
+        PROPERTIES LABELS ${tests_LABEL} TIMEOUT 300 ${tests_PROPERTIES})
+endfunction()
