@@ -1,19 +1,18 @@
 #pragma once
 
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 
+#include "tests/fuzz/limited_text.h"
+
 /// Takes what the process writes to standard output or standard error from now on, until the end
-/// of its life or `take`. Only what goes through the C library's streams is taken.
+/// of its life or `take`. Only what goes through the C library's streams is taken, and no more
+/// than `room` bytes.
 class CapturedStream {
 public:
-    explicit CapturedStream(std::FILE*& stream) : stream_(stream), before_(stream) {
-        std::FILE* memory = open_memstream(&text_, &size_);
-        if (memory == nullptr) {
-            std::abort();
-        }
-        stream_ = memory;
+    explicit CapturedStream(std::FILE*& stream, std::size_t room = LimitedText::noLimit)
+        : stream_(stream), before_(stream), text_(room) {
+        stream_ = text_.open();
     }
     ~CapturedStream() { take(); }
     CapturedStream(const CapturedStream&) = delete;
@@ -26,14 +25,11 @@ public:
         }
         std::fclose(stream_);
         stream_ = before_;
-        std::string text(text_, size_);
-        std::free(text_);
-        return text;
+        return text_.text();
     }
 
 private:
     std::FILE*& stream_;
     std::FILE* before_;
-    char* text_ = nullptr;
-    std::size_t size_ = 0;
+    LimitedText text_;
 };
