@@ -15,3 +15,18 @@ target_link_libraries(kesto_cupsimage INTERFACE ${CUPSIMAGE_LIBRARY} kesto_cups)
 function(kesto_uses_ppd_interface)
     set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -Wno-deprecated-declarations)
 endfunction()
+
+# Where CUPS keeps its programs and its data.
+find_program(CUPS_CONFIG cups-config)
+
+function(kesto_ask_cups variable option fallback text)
+    set(answer ${fallback})
+    if(CUPS_CONFIG)
+        execute_process(COMMAND ${CUPS_CONFIG} ${option}
+            OUTPUT_VARIABLE answer OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    endif()
+    set(${variable} ${answer} CACHE PATH ${text})
+endfunction()
+
+kesto_ask_cups(KESTO_CUPS_SERVERBIN --serverbin /usr/lib/cups "CUPS's folder of programs")
+kesto_ask_cups(KESTO_CUPS_DATADIR --datadir /usr/share/cups "CUPS's folder of data")

@@ -1,26 +1,11 @@
 # Where the parts are installed. CUPS runs only filters in its own folder, and finds queue
 # descriptions only in its own data folder, so both follow cups-config whatever the prefix is.
 include(GNUInstallDirs)
-find_program(CUPS_CONFIG cups-config)
-
-function(kesto_ask_cups variable option fallback text)
-    set(answer ${fallback})
-    if(CUPS_CONFIG)
-        execute_process(COMMAND ${CUPS_CONFIG} ${option}
-            OUTPUT_VARIABLE answer OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-    endif()
-    set(${variable} ${answer} CACHE PATH ${text})
-endfunction()
-
-kesto_ask_cups(KESTO_CUPS_SERVERBIN --serverbin /usr/lib/cups "CUPS's folder of programs")
-kesto_ask_cups(KESTO_CUPS_DATADIR --datadir /usr/share/cups "CUPS's folder of data")
-
 set(programs PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE
     GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 install(TARGETS rastertokestotspl DESTINATION ${KESTO_CUPS_SERVERBIN}/filter ${programs})
 install(PROGRAMS filter/imagetokestotspl DESTINATION ${KESTO_CUPS_SERVERBIN}/filter)
-install(TARGETS tsplpreview DESTINATION ${CMAKE_INSTALL_BINDIR} ${programs})
-install(PROGRAMS ppd/kesto-tspl-size DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS tsplpreview kesto-tspl-size DESTINATION ${CMAKE_INSTALL_BINDIR} ${programs})
 install(PROGRAMS packaging/kesto-tspl-clean DESTINATION ${CMAKE_INSTALL_SBINDIR})
 install(FILES ppd/kesto-tspl.drv DESTINATION ${KESTO_CUPS_DATADIR}/drv)
 # What a description includes lies here; in the folder above everything counts as a description.

@@ -24,11 +24,15 @@ struct OfferedPage {
     PointArea area;  ///< what is printed on
 };
 
+/// Enough for points in sixteenths.
+inline constexpr int usualDecimals = 4;
+
 /// The PostScript code that chooses a page size.
-std::string pageCode(const PointSize& paper, int decimals);
+std::string pageCode(const PointSize& paper, int decimals = usualDecimals);
 
 /// The line for a page that belongs beside `neighbour`, a line of the same kind and language.
-std::string pageLine(const PpdStatement& neighbour, const OfferedPage& page, int decimals);
+std::string pageLine(const PpdStatement& neighbour, const OfferedPage& page,
+                     int decimals = usualDecimals);
 
 /// "*DefaultPageSize: 60x30mm" and the like.
 std::string defaultLine(std::string_view keyword, std::string_view name);

@@ -20,7 +20,7 @@ constexpr std::array sModels{
 constexpr double hair = 0.005;
 
 bool isWithin(const Reach& reach, const NominalSize& size) {
-    return size.width <= reach.width + hair && size.height <= reach.height + hair;
+    return !isTooWide(size, reach) && !isTooHigh(size, reach);
 }
 
 template <typename Wanted>
@@ -43,6 +43,14 @@ const PrinterModel* findModelOfDescription(std::string_view pcFileName) {
     return firstModel([pcFileName](const PrinterModel& model) {
         return equalsIgnoringCase(model.pcFileName, pcFileName);
     });
+}
+
+bool isTooWide(const NominalSize& size, const Reach& reach) {
+    return size.width > reach.width + hair;
+}
+
+bool isTooHigh(const NominalSize& size, const Reach& reach) {
+    return size.height > reach.height + hair;
 }
 
 Fit fitOf(const NominalSize& size, const Reach& reach) {

@@ -36,6 +36,10 @@ const PrinterModel* findModel(std::string_view name);
 /// A model by the file name in its description, in any case of letters.
 const PrinterModel* findModelOfDescription(std::string_view pcFileName);
 
+/// Whether a label reaches out over one of the reach's lengths.
+bool isTooWide(const NominalSize& size, const Reach& reach);
+bool isTooHigh(const NominalSize& size, const Reach& reach);
+
 /// How a label lies in a printer.
 enum class Fit { Upright, Turned, None };
 

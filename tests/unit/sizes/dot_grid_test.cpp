@@ -31,7 +31,8 @@ TEST(DotsAcross, ReachOverTheEdgeByTheToleranceAtMost) {
 
 TEST(DotsAcross, AreNeverMoreThanAByteFewerThanFit) {
     for (int dpi : {203, 300}) {
-        for (double width = 1; width < 220; width += 0.37) {
+        for (int hundredths = 100; hundredths < 22000; hundredths += 37) {
+            const double width = hundredths / 100.0;
             const int dots = dotsAcross(width, dpi);
             const double printed = dots * 25.4 / dpi;
             EXPECT_EQ(dots % 8, 0);
@@ -49,9 +50,9 @@ TEST(DotsDown, AreTheNearestNumber) {
 }
 
 TEST(DotsDown, AreTheLargerNumberInTheMiddleInEveryUnit) {
-    for (double inches = 0.5; inches < 100; ++inches) {
-        EXPECT_EQ(dotsDown(inInches(1, inches).height, 203), static_cast<int>(inches * 203 + 0.5))
-            << inches;
+    // Half an inch has 101.5 dots.
+    for (int inches = 0; inches < 100; ++inches) {
+        EXPECT_EQ(dotsDown(inInches(1, inches + 0.5).height, 203), 203 * inches + 102) << inches;
     }
 }
 
@@ -86,7 +87,8 @@ TEST(DotsOf, AreNotFewerDownThanAcrossWhereTheLabelIsNotWiderThanTall) {
 
 TEST(DotsOf, StayWithinTheToleranceForEverySquareLabel) {
     for (int dpi : {203, 300}) {
-        for (double side = 5; side < 218; side += 0.05) {
+        for (int hundredths = 500; hundredths < 21800; hundredths += 5) {
+            const double side = hundredths / 100.0;
             const DotSize dots = dotsOf(inMillimetres(side, side), dpi);
             EXPECT_LE(dots.columns, dots.rows) << side;
             EXPECT_LE(dots.rows * 25.4 / dpi, side + 0.151) << side;
@@ -111,7 +113,8 @@ TEST(ExactPage, HasThePointsOfItsDots) {
 
 TEST(ExactPage, LosesNoMoreThanSevenDotsOfAnyLabel) {
     for (int dpi : {203, 300}) {
-        for (double width = 2; width < 50; width += 0.1) {
+        for (int tenths = 20; tenths < 500; ++tenths) {
+            const double width = tenths / 10.0;
             const auto page = exactPage(inMillimetres(width, 12), dpi);
             ASSERT_TRUE(page) << width;
             EXPECT_GT(page->dots.columns, width * dpi / 25.4 - 8) << width;
@@ -186,7 +189,8 @@ TEST(OfferedPage, IsSmallerWhereNoPointsAreFound) {
 
 TEST(OfferedPage, IsTakenForLandscapeOnlyWhereTheLabelIs) {
     for (int dpi : {203, 300}) {
-        for (double side = 10; side < 218; side += 0.05) {
+        for (int hundredths = 1000; hundredths < 21800; hundredths += 5) {
+            const double side = hundredths / 100.0;
             const auto page = offeredPage(inMillimetres(side, side), dpi);
             ASSERT_TRUE(page) << side;
             EXPECT_LE(page->points.width, page->points.height) << side;
