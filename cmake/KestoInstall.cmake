@@ -1,10 +1,11 @@
 # Where the parts are installed. CUPS runs only filters in its own folder, and finds queue
 # descriptions only in its own data folder, so both follow cups-config whatever the prefix is.
 include(GNUInstallDirs)
+
 set(programs PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE
     GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
-install(TARGETS rastertokestotspl DESTINATION ${KESTO_CUPS_SERVERBIN}/filter ${programs})
-install(PROGRAMS filter/imagetokestotspl DESTINATION ${KESTO_CUPS_SERVERBIN}/filter)
+install(TARGETS documenttokestotspl rastertokestotspl
+    DESTINATION ${KESTO_CUPS_SERVERBIN}/filter ${programs})
 install(TARGETS tsplpreview kesto-tspl-size DESTINATION ${CMAKE_INSTALL_BINDIR} ${programs})
 install(PROGRAMS packaging/kesto-tspl-clean DESTINATION ${CMAKE_INSTALL_SBINDIR})
 install(FILES ppd/kesto-tspl.drv DESTINATION ${KESTO_CUPS_DATADIR}/drv)
