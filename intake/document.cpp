@@ -45,6 +45,11 @@ DocumentKind printableKind(const Document& document) {
 
 }  // namespace
 
+Document documentAt(const std::string& path) {
+    // The names in it are constants, so nothing of the text is needed any longer.
+    return documentOf(beginningOf(path));
+}
+
 PrintableDocument takeDocument(const JobArguments& arguments, const TemporaryFolder& folder,
                                Supervisor& supervisor) {
     std::string path = arguments.file;
@@ -52,7 +57,7 @@ PrintableDocument takeDocument(const JobArguments& arguments, const TemporaryFol
         path = folder.pathOf("document");
         copyToFile(STDIN_FILENO, path, supervisor);
     }
-    const DocumentKind kind = printableKind(documentOf(beginningOf(path)));
+    const DocumentKind kind = printableKind(documentAt(path));
     return {path, kind};
 }
 

@@ -26,33 +26,30 @@ void writeAll(int file, const char* data, std::size_t size, const std::string& p
     }
 }
 
-// 0 at the end.
-std::size_t copyPiece(int input, int file, const std::string& path) {
+// False at the end.
+bool copyPiece(int input, int file, const std::string& path) {
     std::array<char, sPiece> buffer;
     const ssize_t got = read(input, buffer.data(), buffer.size());
     if (got < 0) {
         failWithReason("Unable to read the document");
     }
     writeAll(file, buffer.data(), static_cast<std::size_t>(got), path);
-    return static_cast<std::size_t>(got);
+    return got > 0;
 }
 
 }  // namespace
 
-std::size_t copyToFile(int input, const std::string& path, Supervisor& supervisor) {
+void copyToFile(int input, const std::string& path, Supervisor& supervisor) {
     const Descriptor file = makeFile(path);
-    std::size_t size = 0;
     for (;;) {
         pollfd source{input, POLLIN, 0};
         supervisor.wait({&source, 1});
         if (source.revents == 0) {
             continue;
         }
-        const std::size_t got = copyPiece(input, file.number(), path);
-        if (got == 0) {
-            return size;
+        if (!copyPiece(input, file.number(), path)) {
+            return;
         }
-        size += got;
     }
 }
 

@@ -6,8 +6,8 @@
 
 namespace intake {
 
-/// Writes all that comes from a descriptor into a new temporary file and returns its size. Throws
-/// JobFailure, also when there is no room for the file, and what Supervisor::wait throws.
-std::size_t copyToFile(int input, const std::string& path, Supervisor& supervisor);
+/// Writes all that comes from a descriptor into a new temporary file. Throws JobFailure,
+/// also when there is no room for the file, and what Supervisor::wait throws.
+void copyToFile(int input, const std::string& path, Supervisor& supervisor);
 
 }  // namespace intake

@@ -123,7 +123,7 @@ private:
                 return label;
             }
         }
-        return queue_.sizes.empty() ? std::nullopt : labelOf(queue_.sizes.front(), queue_.dpi);
+        return labelOf(queue_.sizes.front(), queue_.dpi);
     }
 
     std::string whyDefault(const SizeRequest& request, const Label& label) const {
@@ -150,7 +150,11 @@ private:
 
 std::optional<Label> chooseLabel(const SizeRequest& request, const QueueDescription& queue,
                                  const MediaLookup& knownMedia) {
-    return queue.dpi > 0 ? Chooser(queue, knownMedia).choose(request) : std::nullopt;
+    // Descriptions of jobs are made from the lines of a size.
+    if (queue.dpi <= 0 || queue.sizes.empty()) {
+        return std::nullopt;
+    }
+    return Chooser(queue, knownMedia).choose(request);
 }
 
 }  // namespace intake

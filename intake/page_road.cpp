@@ -61,10 +61,11 @@ private:
         const pid_t child = supervisor_.start(commandFor(call, plan_, folder_), Role::Converter,
                                               nothing.number(), pipe.writeEnd.number());
         pipe.writeEnd.close();
-        const std::size_t size = copyToFile(pipe.readEnd.number(), path, supervisor_);
+        copyToFile(pipe.readEnd.number(), path, supervisor_);
         supervisor_.waitForEnd(child);
         failIfFailed(child, usualReason);
-        if (size == 0) {
+        // For want of a page pdftopdf writes nothing, or a line end and no more.
+        if (documentAt(path).kind != DocumentKind::Pdf) {
             failWithoutPage();
         }
     }

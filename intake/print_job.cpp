@@ -17,7 +17,7 @@ namespace {
 
 std::string readDescriptionFile() {
     const char* path = std::getenv("PPD");
-    if (path == nullptr) {
+    if (path == nullptr || *path == '\0') {
         throw JobFailure("The queue has no description: PPD is not set");
     }
     std::ifstream file(path, std::ios::binary);

@@ -1,11 +1,11 @@
 #include "intake/queue_description.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
-#include <cstddef>
+#include <cmath>
 
 #include "sizes/ascii.h"
+#include "sizes/dot_grid.h"
 #include "sizes/ppd_statement.h"
 #include "sizes/size_spelling.h"
 
@@ -47,6 +47,17 @@ int resolutionOf(std::string_view text) {
     return std::max(dpi, 0);
 }
 
+// Clients of older descriptions, whose pages were those of the dots, ask for these.
+void takePrintedPage(QueueSize& size, int dpi) {
+    const sizes::NominalSize& page = size.offered.page;
+    constexpr double hair = 0.05;
+    const bool isWholeLabel = std::abs(page.width - size.nominal.width) < hair &&
+                              std::abs(page.height - size.nominal.height) < hair;
+    if (isWholeLabel && dpi > 0) {
+        size.offered.page = sizes::printedSize(sizes::dotsOf(size.nominal, dpi), dpi);
+    }
+}
+
 class Reader {
 public:
     Reader(std::string_view ppd, const OptionList& options, const MediaLookup& knownMedia)
@@ -62,6 +73,9 @@ public:
         queue.defaultSize = valueOf("DefaultPageSize");
         queue.dpi = dpi();
         queue.limits = {least(), most(queue.sizes)};
+        for (QueueSize& size : queue.sizes) {
+            takePrintedPage(size, queue.dpi);
+        }
         return queue;
     }
 

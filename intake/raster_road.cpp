@@ -46,9 +46,11 @@ public:
     void print() {
         const Descriptor file = openFile(plan_.document.path);
         reader_.reset(cupsRasterOpen(file.number(), CUPS_RASTER_READ));
-        cups_page_header2_t header;
-        while (reader_ && cupsRasterReadHeader2(reader_.get(), &header) != 0) {
-            printPage(header);
+        try {
+            printAllPages();
+        } catch (const JobFailure&) {
+            letFinish();
+            throw;
         }
         if (filter_ == 0) {
             throw JobFailure("The document has no page to print");
@@ -57,6 +59,13 @@ public:
     }
 
 private:
+    void printAllPages() {
+        cups_page_header2_t header;
+        while (reader_ && cupsRasterReadHeader2(reader_.get(), &header) != 0) {
+            printPage(header);
+        }
+    }
+
     void printPage(cups_page_header2_t& header) {
         const RasterTreatment treatment = treatmentOf(pageOf(header), plan_.dpi);
         if (!treatment.refusal.empty()) {
@@ -145,6 +154,15 @@ private:
             }
         }
         buffer_.clear();
+    }
+
+    // What came before a failure is printed.
+    void letFinish() {
+        if (filter_ != 0 && supervisor_.isRunning(filter_)) {
+            flush();
+            output_.close();
+            supervisor_.waitForEnd(filter_);
+        }
     }
 
     [[noreturn]] void finishEarly() {

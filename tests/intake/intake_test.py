@@ -1,0 +1,8 @@
+#!/usr/bin/python3
+"""intake_test.py DOCUMENTTOKESTOTSPL RASTERTOKESTOTSPL TSPLPREVIEW MODULE.FUNCTION: runs a test."""
+import importlib
+import sys
+
+sys.dont_write_bytecode = True
+module, function = sys.argv[4].split('.')
+getattr(importlib.import_module(module), function)()
