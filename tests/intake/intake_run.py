@@ -15,7 +15,7 @@ sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), '../
 sys.dont_write_bytecode = True
 import label_stream
 
-INTAKE, FILTER, PREVIEWER = (os.path.abspath(name) for name in sys.argv[1:4])
+INTAKE, FILTER, PREVIEWER, INSTALLED = (os.path.abspath(name) for name in sys.argv[1:5])
 CUPS_FILTERS = '/usr/lib/cups/filter/'
 CONVERTERS = ('gstoraster', 'pdftoraster')
 FOLDER = tempfile.mkdtemp(prefix='intake-test-')

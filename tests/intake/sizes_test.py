@@ -1,6 +1,9 @@
 """Which label a job is printed on. Dots are worked out by hand: across, the most multiples of 8
 that reach over the label's edge by no more than 0.15 mm; down, the nearest number."""
-from intake_run import CONVERTERS, printed, server_bin, sizes
+import glob
+import re
+
+from intake_run import CONVERTERS, INSTALLED, printed, read, server_bin, sizes
 import test_documents
 
 LABEL_4X6 = (808, 1218)
@@ -126,3 +129,18 @@ def every_width_is_exact_at_300_dpi():
     expected = {12: (136, 177), 15: (176, 213), 20: (232, 272), 23: (272, 307), 33: (384, 425)}
     rows = [(options, expected[int(options[9:11])], said) for options, _, said in rows]
     assert_labels('kstl300', rows)
+
+
+def every_description_prints_its_default():
+    """Those that are installed, whatever their sizes are."""
+    names = sorted(glob.glob(f'{INSTALLED}/*.ppd'))
+    assert len(names) >= 3, names
+    for name in names:
+        text = read(name).decode()
+        default = re.search(r'^\*DefaultPageSize: (\S+)', text, re.M)[1]
+        points = re.search(rf'^\*PaperDimension {re.escape(default)}/[^"]*"(\S+) (\S+)"', text, re.M)
+        dpi = int(re.search(r'^\*DefaultResolution: (\d+)dpi', text, re.M)[1])
+        [(width, height, _)] = sizes(printed(test_documents.PDF, model=name).stream)
+        assert width % 8 == 0, (name, width)
+        assert abs(width - float(points[1]) / 72 * dpi) <= 8, (name, width, points[0])
+        assert abs(height - float(points[2]) / 72 * dpi) <= 2, (name, height, points[0])
