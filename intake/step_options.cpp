@@ -39,11 +39,7 @@ OptionList withFitting(OptionList options) {
     return options;
 }
 
-// Without a word about it imagetopdf makes a picture as large as the page.
 OptionList pictureOptions(OptionList options, const Label& label) {
-    if (isScalingAutomatic(options)) {
-        options.set("print-scaling", "auto-fit");
-    }
     if (label.isSquare() && !hasAny(options, {"orientation-requested", "landscape"})) {
         options.set("orientation-requested", "3");
     }

@@ -17,12 +17,13 @@ struct StepOptions {
 /// Makes them of the job's own options. All ask for the label's page and for nothing else that
 /// has to do with the size, and none for copies, which are an argument.
 ///
-/// - A document is fitted to the label when it is larger, unless the job says how it is to be
+/// - A PDF document is fitted to the label when it is larger, unless the job says how it is to be
 ///   scaled: what pdftopdf does of itself depends on whether the label's points are whole, and may
 ///   cut the document's edges off.
 /// - A square label is neither upright nor across, so nothing is turned on it unless the job asks
 ///   for that.
-/// - A picture is laid out by imagetopdf; pdftopdf then only counts its copies.
+/// - A picture is laid out by imagetopdf, which makes it as large as the page of itself; pdftopdf
+///   then only counts its copies.
 StepOptions stepOptions(const OptionList& job, const Label& label, bool isPicture);
 
 }  // namespace intake

@@ -61,8 +61,7 @@ TEST(StepOptions, FitALargerDocumentUnlessTheJobSaysOtherwise) {
 
 TEST(StepOptions, LeaveTheScalingOfAPictureToImagetopdf) {
     EXPECT_EQ(valueOf(forPicture({}).picture, "print-scaling"), "(none)");
-    EXPECT_EQ(valueOf(forPicture({{"print-scaling", "auto"}}).picture, "print-scaling"),
-              "auto-fit");
+    EXPECT_EQ(valueOf(forPicture({{"print-scaling", "auto"}}).picture, "print-scaling"), "auto");
     EXPECT_EQ(valueOf(forPicture({{"print-scaling", "fill"}}).picture, "print-scaling"), "fill");
     EXPECT_EQ(valueOf(forPicture({{"scaling", "50"}}).picture, "scaling"), "50");
 }
