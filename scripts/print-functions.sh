@@ -2,7 +2,8 @@
 # release and work in the folder above this one.
 # shellcheck shell=bash
 
-filter=build/filter/rastertokestotspl
+intake=build/intake/documenttokestotspl
+filter_program=build/filter/rastertokestotspl
 previewer=build/preview/tsplpreview
 
 # Not every user has the folder of cupsfilter in the path.
@@ -13,7 +14,7 @@ fail() {
     exit 1
 }
 
-# The last words of a converter or the filter, without its traces.
+# The last words of a converter or a filter, without its traces.
 fail_with_log() {
     grep -v '^DEBUG' "$2" | tail -n 20 >&2 || true
     fail "$1 (the whole log is $2)"
@@ -27,47 +28,58 @@ escaped() {
     echo "${option//\"/\\\"}"
 }
 
-# to_raster PPD DOCUMENT NAME OPTION...: NAME.raster, by CUPS's own converters
-to_raster() {
-    local ppd=$1 document=$2 name=$3 converters option source
+# The programs of the queue: CUPS's filters and the ones that were built here.
+programs=build/cups
+link_programs() {
+    local own filter
+    mkdir -p "$programs/filter"
+    for filter in "$(cups-config --serverbin)"/filter/*; do
+        ln -sf "$filter" "$programs/filter/"
+    done
+    for own in "$intake" "$filter_program"; do
+        ln -sf "$PWD/$own" "$programs/filter/"
+    done
+}
+
+# printable DOCUMENT NAME PPD OPTION...: the document itself, or NAME.pdf where it first has to be
+# made a PDF document, as the scheduler does with text and PostScript
+printable() {
+    local document=$1 name=$2 ppd=$3 converters option
     shift 3
     local cups_options=(-p "$ppd")
     for option in "$@"; do
         cups_options+=(-o "$option")
     done
-
-    source=("$document")
-    converters=$(cupsfilter --list-filters -p "$ppd" -m application/vnd.cups-raster "$document") ||
+    converters=$(cupsfilter --list-filters -m application/pdf "$document" 2>/dev/null) ||
         fail "CUPS cannot convert this kind of document: $document"
-    if grep -qx imagetoraster <<<"$converters"; then
-        # On this road CUPS cuts the page down to the picture, whatever the size of the page. As
-        # a PDF document the picture keeps the whole page.
-        cupsfilter "${cups_options[@]}" -m application/vnd.cups-pdf "$document" \
-            >"$name.picture.pdf" 2>"$name.picture.log" ||
-            fail_with_log "the picture cannot be converted" "$name.picture.log"
-        source=(-i application/pdf "$name.picture.pdf")
+    if ! grep -q -e texttopdf -e gstopdf <<<"$converters"; then
+        echo "$document"
+        return
     fi
-    cupsfilter "${cups_options[@]}" -m application/vnd.cups-raster "${source[@]}" \
-        >"$name.raster" 2>"$name.cupsfilter.log" ||
+    cupsfilter "${cups_options[@]}" -m application/pdf "$document" >"$name.pdf" \
+        2>"$name.cupsfilter.log" ||
         fail_with_log "the document cannot be converted" "$name.cupsfilter.log"
-    [[ -s $name.raster ]] || fail_with_log "the document has no pages" "$name.cupsfilter.log"
+    echo "$name.pdf"
 }
 
 # print_document PPD DOCUMENT NAME OPTION...: NAME.tspl, pictures of its labels, and a list of what
 # is sent
 print_document() {
-    local ppd=$1 document=$2 name=$3 filter_options='' option
+    local ppd=$1 document=$2 name=$3 job_options='' option source copies=1
     shift 3
     # Should this run fail, no results of an earlier one are mistaken for its own.
-    rm -f "$name.raster" "$name.tspl" "$name.picture.pdf" "$name"-[0-9]*.png
+    rm -f "$name.tspl" "$name.pdf" "$name"-[0-9]*.png
 
-    to_raster "$ppd" "$document" "$name" "$@"
+    link_programs
+    source=$(printable "$document" "$name" "$ppd" "$@") || exit
     for option in "$@"; do
-        filter_options+="${filter_options:+ }$(escaped "$option")"
+        [[ $option != copies=* ]] || copies=${option#copies=}
+        job_options+="${job_options:+ }$(escaped "$option")"
     done
-    PPD=$ppd "$filter" 1 "$(id -un)" "$(basename "$document")" 1 "$filter_options" \
-        "$name.raster" >"$name.tspl" 2>"$name.log" ||
-        fail_with_log "the filter failed" "$name.log"
+    env -u CUPS_SERVER CUPS_SERVERBIN="$PWD/$programs" PPD="$ppd" \
+        "$intake" 1 "$(id -un)" "$(basename "$document")" "$copies" "$job_options" \
+        "$source" >"$name.tspl" 2>"$name.log" ||
+        fail_with_log "the document is not printed" "$name.log"
 
     echo
     echo "Printed $document to $name.tspl (log: $name.log)"
