@@ -165,10 +165,12 @@ def three_hundred_labels_leave_room_for_a_document():
     """The dumps of the labels, 590 MB, would fill the file system that the converters need, too."""
     roll = write('roll.pdf', documents.pdf([f'label {number}' for number in range(300)]))
     add_queue('labels')
-    assert len(pages_of(print_one('labels', roll))) == 300
+    stream = print_one('labels', roll)
+    assert len(pages_of(stream)) == 300
     space = os.statvfs(f'{FOLDER}/spool/tmp')
-    free = space.f_bavail * space.f_frsize
-    assert 60 << 20 < free < 80 << 20, free
+    # What the printer got lies on this file system, too, and came after most of the dumps.
+    free = space.f_bavail * space.f_frsize + len(stream)
+    assert 60 << 20 < free < 110 << 20, free
     lines = [line for line in faults_in_log() if 'would stay free' in line]
     assert len(lines) == 1, lines
     expect_label(print_one('labels', LABEL, before=1), 808, 1218)
