@@ -4,11 +4,14 @@ below private_cups, with two sinks that play printers, and may return the errors
 the scheduler's log."""
 import hashlib
 import os
+import random
 import re
+import subprocess
 import sys
+import time
 
 import documents
-from cups_queue import (FOLDER, ROOT, add_queue, check, codes_on, faults_in_log, print_one, received,
+from cups_queue import (FOLDER, ROOT, add_queue, arrived, check, check_cut, codes_on, faults_in_log, print_one, received,
                         run, send, wait)
 from expected_dots import expected_dots
 from label_stream import pages_of, settings_of
@@ -175,6 +178,81 @@ def three_hundred_labels_leave_room_for_a_document():
     assert len(lines) == 1, lines
     expect_label(print_one('labels', LABEL, before=1), 808, 1218)
     return [line for line in faults_in_log() if 'would stay free' in line]
+
+
+def cancelled_jobs_leave_nothing():
+    """50 jobs, cancelled at any moment from before their first filter to their last label."""
+    document = write('pages.pdf', documents.pdf([f'page {number}' for number in range(6)]))
+    picture('photo', 300, '-png')
+    os.chmod(f'{FOLDER}/sinks/a', 0o777)
+    add_queue('labels', device=f'slow:{FOLDER}/sinks/a?1000000')
+    moments = random.Random(7)
+    for number in range(50):
+        job = send('labels', document if number % 2 else f'{FOLDER}/photo.png')
+        time.sleep(moments.uniform(0, 1.3))
+        subprocess.run(['cancel', str(job)], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        ended_jobs(number + 1)
+    until = time.monotonic() + 10
+    while (left := left_behind()) and time.monotonic() < until:
+        time.sleep(0.1)
+    assert not left, left
+    cut = 0
+    for stream in arrived('a'):
+        check_cut(stream)
+        bitmaps, prints = stream.count(b'\r\nBITMAP 0,0,'), stream.count(b'\r\nPRINT 1,1\r\n')
+        assert bitmaps - prints in (0, 1), (bitmaps, prints)
+        cut += bitmaps > prints or prints not in (1, 6)
+    assert cut > 5, cut
+    return [line for line in faults_in_log() if 'for Cancel-Job' in line]    # jobs that had ended
+
+
+def ended_jobs(count, timeout=60):
+    """Waits until so many jobs have ended, however."""
+    until = time.monotonic() + timeout
+    while time.monotonic() < until:
+        if len(run('lpstat', '-W', 'completed', '-o').splitlines()) >= count:
+            return
+        time.sleep(0.02)
+    raise AssertionError('a cancelled job does not end')
+
+
+def left_behind():
+    """Files in the temporary folder, and the programs of jobs that still run."""
+    left = [name for name in os.listdir(f'{FOLDER}/spool/tmp') if not name.startswith('cups-')]
+    for process in filter(str.isdigit, os.listdir('/proc')):
+        try:
+            with open(f'/proc/{process}/environ', 'rb') as file:
+                environment = file.read().split(b'\0')
+        except OSError:
+            continue
+        if any(word.startswith(f'TMPDIR={FOLDER}/spool/tmp'.encode()) for word in environment):
+            left.append(process)
+    return left
+
+
+def languages_find_the_models():
+    models = {f'drv:///kesto-tspl.drv/{name}.PPD' for name in 'KSTL203 KSTL203M KSTL300 KSTL300M KSTS300'.split()}
+    for device in ('CMD:TSPL;', 'MFG:Kesto;MDL:Label 203 dpi;CMD:ZPL,TSPL,EPL;'):
+        offered = {line.split(' ', 1)[0] for line in run('lpinfo', '--device-id', device, '-m').splitlines()}
+        assert offered & models and 'drv:///kesto-tspl.drv/KSTL203.PPD' in offered, (device, offered)
+    assert models <= {line.split(' ', 1)[0] for line in run('lpinfo', '--device-id', 'CMD:TSPL;', '-m').splitlines()}
+
+
+def clients_see_the_sizes_by_their_names():
+    add_queue('labels', model='KSTL203M')
+    add_queue('inches', model='KSTL203')
+    seen = {}
+    for queue in ('labels', 'inches'):
+        text = run('ipptool', '-tv', f'ipp://{os.environ["CUPS_SHARED"]}/printers/{queue}', 'get-printer-attributes.test')
+        seen[queue] = {name: re.search(rf'^\s*{name} \([^)]*\) = (.*)$', text, re.M)[1].split(',')
+                       for name in ('media-supported', 'media-ready')}
+    assert seen['labels']['media-ready'] == ['om_small-photo_100x150mm'], seen['labels']['media-ready']
+    assert seen['inches']['media-ready'] == ['na_index-4x6_4x6in'], seen['inches']['media-ready']
+    for queue, unit in (('labels', 'mm'), ('inches', 'in')):
+        names = [name for name in seen[queue]['media-supported'] if not name.startswith('custom_m')]
+        assert len(names) == {'labels': 26, 'inches': 15}[queue], names
+        assert all(re.fullmatch(rf'\w+(-\w+)*_[\d.]+x[\d.]+(_[\d.]+x[\d.]+)?{unit}', name.replace(f'{unit}_', '_'))
+                   for name in names), names
 
 
 def file_device_holds_the_last_job():
