@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "sizes/findable_points.h"
-
 namespace sizes {
 namespace {
 
@@ -30,21 +28,6 @@ bool isTooSmall(const DotSize& dots) {
     return dots.columns < fewestDots || dots.rows < fewestDots;
 }
 
-struct FindableLength {
-    int dots;
-    double points;
-};
-
-// The largest length in steps of some dots that every converter finds.
-std::optional<FindableLength> largestFindable(int dots, int step, int dpi) {
-    for (; dots >= fewestDots; dots -= step) {
-        if (const auto points = findablePoints(dots, dpi)) {
-            return FindableLength{dots, *points};
-        }
-    }
-    return std::nullopt;
-}
-
 }  // namespace
 
 int dotsAcross(double millimetres, int dpi) {
@@ -67,14 +50,9 @@ NominalSize printedSize(const DotSize& dots, int dpi) {
                          dots.rows * millimetresPerInch / dpi);
 }
 
-std::optional<LabelPage> offeredPage(const NominalSize& size, int dpi) {
-    const DotSize wanted = dotsOf(size, dpi);
-    const auto across = largestFindable(wanted.columns, dotsPerByte, dpi);
-    const auto down = largestFindable(wanted.rows, 1, dpi);
-    if (!across || !down) {
-        return std::nullopt;
-    }
-    return LabelPage{{across->dots, down->dots}, {across->points, down->points}};
+PointSize labelPoints(const NominalSize& size) {
+    constexpr double pointsPerMillimetre = pointsPerInch / millimetresPerInch;
+    return {size.width * pointsPerMillimetre, size.height * pointsPerMillimetre};
 }
 
 std::optional<LabelPage> exactPage(const NominalSize& size, int dpi) {

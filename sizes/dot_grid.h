@@ -46,11 +46,9 @@ DotSize dotsOf(const NominalSize& size, int dpi);
 /// The size of so many dots.
 NominalSize printedSize(const DotSize& dots, int dpi);
 
-/// The page for a description that is installed, whose points every converter has to find by
-/// itself among those of the other sizes: the largest one up to dotsOf that both of CUPS's
-/// converters print with this number of dots. Below 27 mm it may be smaller than the label: 12 mm
-/// at 300 dpi are printed 8.8 mm wide. Nothing when the label has no such page of the fewest dots.
-std::optional<LabelPage> offeredPage(const NominalSize& size, int dpi);
+/// The label itself in points: what a queue's description offers, so that clients see its true
+/// size.
+PointSize labelPoints(const NominalSize& size);
 
 /// The page of exactly dotsOf, for the description of one job (see job_description.h). Nothing
 /// when that is less than the fewest dots.

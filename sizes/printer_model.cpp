@@ -12,7 +12,9 @@ constexpr Reach sLabelReach{4.65 * millimetresPerInch, widestReach.height};
 
 constexpr std::array sModels{
     PrinterModel{"label203", 203, "KSTL203.PPD", sLabelReach},
+    PrinterModel{"label203mm", 203, "KSTL203M.PPD", sLabelReach},
     PrinterModel{"label300", 300, "KSTL300.PPD", sLabelReach},
+    PrinterModel{"label300mm", 300, "KSTL300M.PPD", sLabelReach},
     PrinterModel{"stencil300", 300, "KSTS300.PPD", widestReach},
 };
 

@@ -45,7 +45,8 @@ void describe(CLI::App& app, RawOptions& raw) {
         ->type_name("")
         ->check(checkedSize);
     app.add_option("-m", raw.model,
-                   "The printer and its resolution: label203 (the default), label300 or stencil300")
+                   "The printer and its resolution: label203 (the default), label203mm, label300, "
+                   "label300mm or stencil300")
         ->type_name("MODEL")
         ->check(checkedModel);
     app.add_option("-b", raw.base,

@@ -1,7 +1,10 @@
 #include "sizes/command/own_description.h"
 
 #include <algorithm>
+#include <cmath>
+#include <locale>
 #include <set>
+#include <sstream>
 #include <utility>
 #include <vector>
 
@@ -15,9 +18,10 @@ namespace {
 
 std::vector<OfferedPage> offeredPages(std::span<const OwnSize> sizes) {
     std::vector<OfferedPage> pages;
-    for (const auto& [label, page] : sizes) {
-        const auto& [width, height] = page.points;
-        pages.push_back({sizeName(label), sizeText(label), page.points, {0, 0, width, height}});
+    for (const auto& [label, dots] : sizes) {
+        const PointSize paper = labelPoints(label);
+        pages.push_back(
+            {sizeName(label), sizeText(label), paper, {0, 0, paper.width, paper.height}});
     }
     return pages;
 }
@@ -30,11 +34,32 @@ std::vector<std::string> texts(std::span<const OwnSize> sizes) {
     return result;
 }
 
+// CUPS takes the first size that is so near, in points either way, for the one that is wanted.
+bool isTakenFor(const PointSize& one, const PointSize& other) {
+    constexpr double tolerance = 5;
+    return std::abs(one.width - other.width) <= tolerance &&
+           std::abs(one.height - other.height) <= tolerance;
+}
+
+PointSize paperOf(const PpdStatement& statement) {
+    PointSize paper;
+    std::istringstream value{std::string(statement.value)};
+    value.imbue(std::locale::classic());
+    value >> paper.width >> paper.height;
+    return paper;
+}
+
 /// Writes a description anew, statement by statement.
 class Edition {
 public:
     Edition(std::span<const PpdStatement> statements, std::span<const OwnSize> sizes)
-        : statements_(statements), pages_(offeredPages(sizes)), texts_(texts(sizes)) {}
+        : statements_(statements), pages_(offeredPages(sizes)), texts_(texts(sizes)) {
+        for (const PpdStatement& statement : statements_) {
+            if (statement.keyword == "PaperDimension" && isNearOne(paperOf(statement))) {
+                shadowed_.insert(statement.option);
+            }
+        }
+    }
 
     std::string text() {
         text_.clear();
@@ -65,9 +90,17 @@ private:
                 addNewLine(statement, page);
             }
         }
-        if (isTranslation(statement) || !isReplaced(statement.option)) {
+        const bool replaced = isReplaced(statement.option);
+        const bool gone = shadowed_.count(statement.option) != 0 && !replaced;
+        if (!gone && (isTranslation(statement) || !replaced)) {
             text_ += statement.text;
         }
+    }
+
+    bool isNearOne(const PointSize& paper) const {
+        return std::any_of(pages_.begin(), pages_.end(), [&paper](const OfferedPage& page) {
+            return isTakenFor(page.paper, paper);
+        });
     }
 
     // A text that somebody has translated stays.
@@ -94,6 +127,7 @@ private:
     std::span<const PpdStatement> statements_;
     std::vector<OfferedPage> pages_;
     std::vector<std::string> texts_;
+    std::set<std::string_view> shadowed_;  ///< by a new size: nobody could choose them any more
     std::set<std::pair<std::string_view, std::string_view>> begun_;
     std::string text_;
 };

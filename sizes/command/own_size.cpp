@@ -25,11 +25,11 @@ NominalSize labelOf(const std::string& name) {
 
 OwnSize ownSize(const std::string& name, int dpi) {
     const NominalSize label = labelOf(name);
-    const auto page = offeredPage(label, dpi);
+    const auto page = exactPage(label, dpi);
     if (!page) {
         throw Failure("too small: " + name);
     }
-    return {label, *page};
+    return {label, page->dots};
 }
 
 bool isAmong(const std::vector<OwnSize>& sizes, const NominalSize& label) {

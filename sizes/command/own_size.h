@@ -8,10 +8,10 @@
 
 namespace sizes {
 
-/// A size that the user wants, and its page.
+/// A size that the user wants, and the dots that are printed on it.
 struct OwnSize {
     NominalSize label;
-    LabelPage page;
+    DotSize dots;
 };
 
 /// The sizes that the user names (see parsePlainSize) at a resolution, each once.

@@ -10,7 +10,7 @@ namespace {
 
 // CustomMedia takes the code twice, for PageSize and for PageRegion.
 std::string mediaLine(const OwnSize& size) {
-    const PointSize& points = size.page.points;
+    const PointSize points = labelPoints(size.label);
     const std::string code = " \"" + pageCode(points) + "\"";
     return "  CustomMedia \"" + sizeName(size.label) + "/" + sizeText(size.label) + "\" " +
            lengthText(points.width) + " " + lengthText(points.height) + " 0 0 0 0" + code + code +
@@ -22,10 +22,10 @@ std::string mediaLine(const OwnSize& size) {
 std::string sizeListing(std::span<const OwnSize> sizes, int dpi) {
     std::ostringstream listing;
     listing << std::fixed << std::setprecision(1);
-    for (const auto& [label, page] : sizes) {
-        const NominalSize printed = printedSize(page.dots, dpi);
+    for (const auto& [label, dots] : sizes) {
+        const NominalSize printed = printedSize(dots, dpi);
         listing << std::left << std::setw(14) << sizeName(label) << " " << sizeText(label) << ": "
-                << page.dots.columns << " x " << page.dots.rows << " dots at " << dpi << " dpi, "
+                << dots.columns << " x " << dots.rows << " dots at " << dpi << " dpi, "
                 << printed.width << " x " << printed.height << " mm\n";
     }
     return listing.str();

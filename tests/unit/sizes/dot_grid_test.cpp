@@ -6,7 +6,6 @@
 #include <limits>
 #include <string>
 
-#include "sizes/findable_points.h"
 #include "sizes/printer_model.h"
 
 namespace sizes {
@@ -131,77 +130,10 @@ TEST(ExactPage, NeedsEightDotsEitherWay) {
     EXPECT_FALSE(exactPage(inMillimetres(0, 0), 203));
 }
 
-// Whole points, cut off, are found within 1 %; the rest must mean the same number of dots.
-void expectFindable(double points, int dots, int dpi) {
-    EXPECT_LT(points - static_cast<int>(points), 0.01 * points) << dots;
-    EXPECT_LT(std::abs(points * dpi / 72 - dots), 0.451) << dots;
-    EXPECT_EQ(points * 16, static_cast<int>(points * 16)) << dots;
-}
-
-TEST(FindablePoints, MeanTheirDotsToBothWaysOfReadingThem) {
-    for (int dpi : {203, 300}) {
-        for (int dots = 8; dots < 3000; ++dots) {
-            if (const auto points = findablePoints(dots, dpi)) {
-                expectFindable(*points, dots, dpi);
-            }
-        }
-    }
-}
-
-// From 100 points up 1 % is a whole one: nothing that is cut off matters any more.
-TEST(FindablePoints, ExistForEveryNumberFromAHundredPointsUp) {
-    for (int dpi : {203, 300}) {
-        for (int dots = 101 * dpi / 72; dots < 30000; ++dots) {
-            EXPECT_TRUE(findablePoints(dots, dpi)) << dots;
-        }
-    }
-}
-
-// 136 dots at 300 dpi are 32.64 points, of which poppler's converter makes 32; 35 dots are 8.4.
-TEST(FindablePoints, DoNotExistWhereCuttingOffLosesTheSize) {
-    EXPECT_FALSE(findablePoints(136, 300));
-    EXPECT_FALSE(findablePoints(35, 300));
-    EXPECT_EQ(findablePoints(100, 300), 24.0625);
-}
-
-// 1150 dots at 203 dpi are 407.8818 points; a program that cuts off needs them in full.
-TEST(FindablePoints, AreALittleMoreThanTheDotsWhereThatIsFound) {
-    EXPECT_EQ(findablePoints(1150, 203), 407.9375);
-    EXPECT_EQ(findablePoints(1218, 203), 432.0625);
-}
-
-TEST(OfferedPage, IsFoundByBothConverters) {
-    const auto page = offeredPage(inMillimetres(60, 30), 203);
-    ASSERT_TRUE(page);
-    EXPECT_EQ(page->dots, (DotSize{480, 240}));
-    expectFindable(page->points.width, 480, 203);
-    expectFindable(page->points.height, 240, 203);
-}
-
-// 12 mm are 141 dots at 300 dpi: 136 fit, and of 136, 128, 120, 112 and 104 dots the last is the
-// first whose points (24.96, or 25) are near enough to whole ones.
-TEST(OfferedPage, IsSmallerWhereNoPointsAreFound) {
-    const auto page = offeredPage(inMillimetres(12, 30), 300);
-    ASSERT_TRUE(page);
-    EXPECT_EQ(page->dots.columns, 104);
-    EXPECT_EQ(page->points.width, 25);
-}
-
-TEST(OfferedPage, IsTakenForLandscapeOnlyWhereTheLabelIs) {
-    for (int dpi : {203, 300}) {
-        for (int hundredths = 1000; hundredths < 21800; hundredths += 5) {
-            const double side = hundredths / 100.0;
-            const auto page = offeredPage(inMillimetres(side, side), dpi);
-            ASSERT_TRUE(page) << side;
-            EXPECT_LE(page->points.width, page->points.height) << side;
-        }
-    }
-}
-
-TEST(OfferedPage, NeedsEightDotsEitherWay) {
-    EXPECT_FALSE(offeredPage(inMillimetres(0.8, 10), 203));
-    EXPECT_FALSE(offeredPage(inMillimetres(10, 0.8), 203));
-    EXPECT_FALSE(offeredPage(inMillimetres(0, 0), 203));
+TEST(LabelPoints, AreTheLabelItself) {
+    EXPECT_NEAR(labelPoints(inInches(4, 6)).width, 288, 1e-9);
+    EXPECT_NEAR(labelPoints(inInches(4, 6)).height, 432, 1e-9);
+    EXPECT_NEAR(labelPoints(inMillimetres(25.4, 50.8)).height, 144, 1e-9);
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ const std::string sPpd =
     "*DefaultFont: Courier\n";
 
 OwnSize own(const NominalSize& label) {
-    return {label, *offeredPage(label, 203)};
+    return {label, dotsOf(label, 203)};
 }
 
 std::string described(const std::string& ppd, const std::vector<OwnSize>& sizes) {
@@ -64,7 +64,7 @@ std::string reasonAgainst(const std::string& ppd) {
 }
 
 TEST(OwnDescription, OffersTheSizeFirstAndAsTheDefault) {
-    const std::string code = "\"<</PageSize[170.3125 85.1875]/ImagingBBox null>>setpagedevice\"\n";
+    const std::string code = "\"<</PageSize[170.0787 85.0394]/ImagingBBox null>>setpagedevice\"\n";
     EXPECT_EQ(described(sPpd, {own(inMillimetres(60, 30))}),
               sPpd.substr(0, sPpd.find("*NickName")) +
                   "*NickName: \"Kesto Label 203 dpi, 0.1 with 60 x 30 mm\"\n"
@@ -83,11 +83,11 @@ TEST(OwnDescription, OffersTheSizeFirstAndAsTheDefault) {
                   "*PageRegion 1x1in/1 x 1 in: \"code\"\n"
                   "*PageRegion 2x1in/2 x 1 in: \"code\"\n"
                   "*DefaultImageableArea: 60x30mm\n"
-                  "*ImageableArea 60x30mm/60 x 30 mm: \"0 0 170.3125 85.1875\"\n"
+                  "*ImageableArea 60x30mm/60 x 30 mm: \"0 0 170.0787 85.0394\"\n"
                   "*ImageableArea 1x1in/1 x 1 in: \"0 0 1 1\"\n"
                   "*ImageableArea 2x1in/2 x 1 in: \"0 0 2 1\"\n"
                   "*DefaultPaperDimension: 60x30mm\n"
-                  "*PaperDimension 60x30mm/60 x 30 mm: \"170.3125 85.1875\"\n"
+                  "*PaperDimension 60x30mm/60 x 30 mm: \"170.0787 85.0394\"\n"
                   "*PaperDimension 1x1in/1 x 1 in: \"1 1\"\n"
                   "*PaperDimension 2x1in/2 x 1 in: \"2 1\"\n"
                   "*DefaultResolution: 203dpi\n"
@@ -108,13 +108,26 @@ TEST(OwnDescription, OffersSeveralSizesInTheirOrder) {
 TEST(OwnDescription, ReplacesASizeOfTheSameNameButNotItsTranslation) {
     const std::string text = described(sPpd, {own(inInches(2, 1))});
     EXPECT_EQ(text.find("*PageSize 2x1in/2 x 1 in: \"code\""), std::string::npos);
-    EXPECT_NE(text.find("*PaperDimension 2x1in/2 x 1 in: \"141.9375 72.0625\"\n"
+    EXPECT_NE(text.find("*PaperDimension 2x1in/2 x 1 in: \"144 72\"\n"
                         "*PaperDimension 1x1in/"),
               std::string::npos);
     EXPECT_EQ(text.find("\"2 1\""), std::string::npos);
     EXPECT_NE(text.find("*de.PageSize 1x1in/1 mal 1 Zoll: \"\"\n*de.PageSize 2x1in/2 mal 1 Zoll"),
               std::string::npos);
     EXPECT_EQ(text.find("*de.PageSize 2x1in/2 x 1 in"), std::string::npos);
+}
+
+// 2 x 1 in are 144 x 72 points here, and 50 x 25 mm 141.7 x 70.9: CUPS would take one for the
+// other.
+TEST(OwnDescription, DropsASizeThatCupsWouldTakeForTheNewOne) {
+    const std::string ppd = with(sPpd, "1 in: \"2 1\"", "1 in: \"144 72\"");
+    const std::string text = described(ppd, {own(inMillimetres(50, 25))});
+    EXPECT_EQ(text.find("2x1in"), std::string::npos);
+    EXPECT_NE(text.find("*PaperDimension 50x25mm/50 x 25 mm: \"141.7323 70.8661\""),
+              std::string::npos);
+    EXPECT_NE(text.find("*de.PageSize 1x1in/1 mal 1 Zoll"), std::string::npos);
+    const std::string other = described(ppd, {own(inMillimetres(49, 25))});
+    EXPECT_NE(other.find("*PageSize 2x1in/"), std::string::npos);
 }
 
 TEST(OwnDescription, IsTheSameWhenItIsMadeOfItselfAgain) {

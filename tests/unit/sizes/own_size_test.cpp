@@ -21,7 +21,7 @@ std::string reasonAgainst(const std::string& name) {
 TEST(OwnSizes, HaveTheirPages) {
     const auto sizes = ownSizes({"60x30mm", "2x1in"}, 203);
     ASSERT_EQ(sizes.size(), 2U);
-    EXPECT_EQ(sizes[0].page.dots, (DotSize{480, 240}));
+    EXPECT_EQ(sizes[0].dots, (DotSize{480, 240}));
     EXPECT_EQ(sizeText(sizes[1].label), "2 x 1 in");
 }
 
@@ -55,9 +55,9 @@ TEST(SizeListing, TellsNameDotsAndMillimetres) {
 }
 
 TEST(MediaLines, AreThoseOfTheCompilersSource) {
-    const std::string code = " \"<</PageSize[141.9375 72.0625]/ImagingBBox null>>setpagedevice\"";
+    const std::string code = " \"<</PageSize[144 72]/ImagingBBox null>>setpagedevice\"";
     EXPECT_EQ(mediaLines(ownSizes({"2x1in"}, 203)),
-              "  CustomMedia \"2x1in/2 x 1 in\" 141.9375 72.0625 0 0 0 0" + code + code + "\n");
+              "  CustomMedia \"2x1in/2 x 1 in\" 144 72 0 0 0 0" + code + code + "\n");
 }
 
 }  // namespace

@@ -10,6 +10,9 @@ TEST(PrinterModel, IsFoundByItsName) {
     ASSERT_NE(findModel("label300"), nullptr);
     EXPECT_EQ(findModel("label300")->dpi, 300);
     EXPECT_EQ(findModel("label300")->pcFileName, "KSTL300.PPD");
+    EXPECT_EQ(findModel("label203mm")->pcFileName, "KSTL203M.PPD");
+    EXPECT_EQ(findModel("label300mm")->pcFileName, "KSTL300M.PPD");
+    EXPECT_EQ(findModel("label300mm")->dpi, 300);
     EXPECT_EQ(findModel("stencil300")->pcFileName, "KSTS300.PPD");
     EXPECT_EQ(findModel("label600"), nullptr);
     EXPECT_EQ(findModel(""), nullptr);
