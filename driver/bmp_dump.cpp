@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <libgen.h>
 #include <sys/statvfs.h>
 
@@ -57,6 +58,9 @@ void KestoPrinter::saveImage(const unsigned char* data, std::size_t bytesPerLine
     if (layout.grey) {
         // The pixels go out as they lie in memory, without the padding and the row order that
         // the header promises: readers of the dumps know them this way.
+        // A file system finds space for the whole file at once sooner than piece by piece.
+        posix_fallocate(fileno(file.get()), 0,
+                        static_cast<off_t>(layout.dataOffset() + width * height));
         writeGreyRamp(file.get());
         std::fwrite(data, width * height, 1, file.get());
         return;
