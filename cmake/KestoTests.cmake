@@ -21,6 +21,7 @@ target_compile_options(kesto_test_compile INTERFACE "$<$<CONFIG:RelWithDebInfo,R
 file(CONFIGURE OUTPUT kesto_test_headers.cpp CONTENT "")
 add_library(kesto_test_headers OBJECT ${CMAKE_CURRENT_BINARY_DIR}/kesto_test_headers.cpp)
 target_link_libraries(kesto_test_headers PRIVATE kesto_test_compile)
+set_target_properties(kesto_test_headers PROPERTIES KESTO_UNOPTIMISED ON)
 target_precompile_headers(kesto_test_headers PRIVATE
     <gtest/gtest.h>
     <algorithm> <array> <cstdint> <cstdio> <cstdlib> <cstring> <filesystem> <fstream> <functional>
@@ -30,6 +31,7 @@ target_precompile_headers(kesto_test_headers PRIVATE
 # kesto_test_sources(TARGET): compiles the sources of a target as those of tests
 function(kesto_test_sources target)
     target_link_libraries(${target} PRIVATE kesto_test_compile)
+    set_target_properties(${target} PROPERTIES KESTO_UNOPTIMISED ON)
     target_precompile_headers(${target} REUSE_FROM kesto_test_headers)
 endfunction()
 
