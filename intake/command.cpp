@@ -24,7 +24,8 @@ std::vector<std::string> environmentWith(const Variables& variables) {
         }
     }
     for (const auto& [name, value] : variables) {
-        environment.push_back(name + "=" + value);
+        environment.push_back(name);
+        environment.back().append("=").append(value);
     }
     return environment;
 }

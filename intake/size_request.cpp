@@ -101,7 +101,7 @@ private:
         const std::string* value = options_.find(option);
         Names names(value == nullptr ? std::string_view() : *value);
         for (auto name = names.next(); !name.empty(); name = names.next()) {
-            if (const auto wish = readWish(name, queue_, knownMedia_)) {
+            if (auto wish = readWish(name, queue_, knownMedia_)) {
                 return wish;
             }
             unknown_ = name;

@@ -40,7 +40,7 @@ std::string TemporaryFolder::pathOf(std::string_view name) const {
 }
 
 std::string TemporaryFolder::write(std::string_view name, std::string_view content) const {
-    const std::string path = pathOf(name);
+    std::string path = pathOf(name);
     const Descriptor file = makeFile(path);
     while (!content.empty()) {
         const ssize_t written = ::write(file.number(), content.data(), content.size());
