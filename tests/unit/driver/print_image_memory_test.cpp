@@ -111,8 +111,7 @@ TEST_F(PageWithoutMemory, ForAStepOfALaterPageNeverPrintsAnotherPageInItsPlace) 
         for (int ordinal = 1; ordinal <= mostBuffers; ++ordinal) {
             TestPrinter other;
             setProperties(
-                other,
-                {.halftoneType = static_cast<int>(type), .mirror = true, .rotate180 = true});
+                other, {.halftoneType = static_cast<int>(type), .mirror = true, .rotate180 = true});
             errorOutputOf([&] {
                 other.printImage(first.data(), side, side, side);
                 const FailingAllocation failure(ordinal);
