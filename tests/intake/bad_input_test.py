@@ -102,6 +102,11 @@ def a_full_disk_is_told_of():
                                        (16, large_document(), True)):
         for converter in CONVERTERS:
             on_a_small_disk(kilobytes, document, piped, converter)
+    # Ghostscript makes a copy of the pages, for which there comes to be no room.
+    lines = [on_a_small_disk(kilobytes, test_documents.bulky(), False, 'gstoraster')
+             for kilobytes in range(20, 200, 20)]
+    assert any(line and 'gstoraster failed' in line for line in lines), lines
+    assert lines[0] and not lines[-1], lines
 
 
 def large_document():
@@ -126,9 +131,10 @@ def on_a_small_disk(kilobytes, document, piped, converter):
     what = (kilobytes, document, piped, converter, done.returncode, lines)
     if done.returncode == 0:
         assert sizes(done.stdout) == LABEL and kilobytes >= 16 and not piped, what
-        return
+        return None
     assert done.returncode == 1 and done.stdout == b'', what
     assert lines[-1].startswith('ERROR: ') and 'no room for' in lines[-1], what
+    return lines[-1]
 
 
 def a_missing_temporary_folder_is_told_of():

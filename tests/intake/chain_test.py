@@ -160,12 +160,19 @@ def fewer_arguments_are_answered_by_the_usage():
 
 
 def closed_standard_streams_are_survived():
-    program = [intake_run.INTAKE, '1', 'u', 't', '1', '', test_documents.PDF]
-    for closed in ('<&-', '>&-', '2>&-', '<&- >&-', '<&- >&- 2>&-'):
-        done = run(test_documents.PDF, bin_folder=server_bin(), preexec_fn=lambda: [
-            os.close(number) for number, sign in ((0, '<'), (1, ' >&-'), (2, '2>'))
-            if sign in ' ' + closed])
-        assert done.status == (1 if ' >&-' in ' ' + closed else 0), (closed, done.lines)
+    for closed in ([0], [2], [0, 2], [1], [0, 1], [1, 2], [0, 1, 2]):
+        def close():
+            for number in closed:
+                os.close(number)
+        for document in test_documents.PDF, test_documents.png(300, 400):
+            done = run(document, preexec_fn=close)
+            assert done.status == (1 if 1 in closed else 0), (closed, done.lines)
+            if 1 not in closed:
+                assert sizes(done.stream) == [(808, 1218, 1)], closed
+            elif 2 not in closed:
+                assert done.own_error() == 'rastertokestotspl failed with status 1', done.lines
+    done = run(None, given=None, preexec_fn=lambda: os.close(0))
+    assert done.status == 1 and done.own_error().startswith('Unable to read the document')
 
 
 def a_square_label_is_never_turned():

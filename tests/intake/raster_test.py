@@ -26,6 +26,14 @@ def widths_become_whole_bytes():
             assert burnt(done) == [0], 'what is added or left is paper'
 
 
+def what_stands_behind_a_line_is_not_printed():
+    for space, level in ((BLACK, 0), (WHITE_HIGH, 255)):
+        for behind in b'\0' * 9, b'\xff' * 9:
+            done = printed(raster('w', 799, 300, space, level=level, behind=behind))
+            [page] = label_stream.pages_of(done.stream)
+            assert page.width == 800 and page.burnt_share() == 0, page.burnt_share()
+
+
 def pages_where_white_is_high_are_inverted():
     for space in WHITE_HIGH, STANDARD_GREY:
         assert burnt(printed(raster('w', 800, 300, space, level=255))) == [0]

@@ -1,4 +1,5 @@
 """Documents of all kinds, written here or by Ghostscript and Poppler."""
+import random
 import struct
 import subprocess
 import zlib
@@ -60,6 +61,12 @@ def encrypted():
                           '-dEncryptionR=3', '-dKeyLength=128')
 
 
+def bulky():
+    """A PDF file of a page that does not become much smaller when it is compressed."""
+    noise = random.Random(1).choices('abcdefghijklmnopqrstuvwxyz0123456789', k=80000)
+    return write('bulky.pdf', documents.pdf([') Tj\n%' + ''.join(noise) + '\n('], 288, 432))
+
+
 def no_page():
     """A PDF file without pages."""
     body = (b'%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>\nendobj\n'
@@ -78,14 +85,16 @@ HEADER_SIZE = 1796
 
 
 def raster(name, width, height, space, pages=1, dpi=203, bits=8, level=0, copies=1, order=0,
-           sync=b'3SaR', cut=0):
-    """CUPS raster of one level; the header's fields are at their offsets in cups_page_header2_t."""
-    row_bytes = (width * bits + 7) // 8
+           sync=b'3SaR', cut=0, behind=b''):
+    """CUPS raster of one level; the header's fields are at their offsets in cups_page_header2_t.
+    Behind each line there may be more bytes than the page is wide."""
+    row = bytes([level]) * ((width * bits + 7) // 8) + behind
+    row_bytes = len(row)
     header = bytearray(HEADER_SIZE)
     fields = {276: dpi, 280: dpi, 340: copies, 372: width, 376: height, 384: bits, 388: bits,
               392: row_bytes, 396: order, 400: space, 420: 1}
     for offset, value in fields.items():
         struct.pack_into('=I', header, offset, value)
-    page = bytes(header) + bytes([level]) * (row_bytes * height)
+    page = bytes(header) + row * height
     content = sync + page * pages
     return write(name, content[:len(content) - cut])
