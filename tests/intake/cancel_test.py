@@ -3,7 +3,7 @@ left behind, and the status is 0."""
 import fcntl
 import os
 import random
-import re
+import resource
 import signal
 import subprocess
 import time
@@ -99,6 +99,17 @@ def while_the_document_is_read():
     job.process.stdin.close()
     job.process.stdin = None
     assert_cancelled(job)
+
+
+def while_a_document_without_end_is_read():
+    """There is always something to read, which must not keep the signal waiting."""
+    limit = 1 << 29
+    with open('/dev/zero', 'rb') as endless:
+        job = Run(None, stdin=endless, preexec_fn=lambda: resource.setrlimit(
+            resource.RLIMIT_FSIZE, (limit, limit)))
+        wait_for(lambda: os.listdir(job.temporary))
+        job.process.send_signal(signal.SIGTERM)
+        assert_cancelled(job)
 
 
 def printing():
