@@ -1,6 +1,7 @@
 #include "filter/recording_file.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <string>
 
@@ -16,7 +17,7 @@ OwnedFile openRecordingFile(std::span<char> name) {
         if (next.size() >= name.size()) {
             break;
         }
-        std::strcpy(name.data(), next.c_str());
+        std::snprintf(name.data(), name.size(), "%s", next.c_str());
         file = openNewFile(name.data(), ownerOnly);
     }
     if (file) {
