@@ -43,7 +43,7 @@ TEST(DocumentKind, OfPicturesIsPicture) {
 TEST(DocumentKind, OfJpegPicturesNeedsTheApplicationsSegment) {
     expectKind(DocumentKind::Picture, {"\xff\xd8\xff\xe0\0\x10JFIF"sv, "\xff\xd8\xff\xe1\0\0Exif"sv,
                                        "\xff\xd8\xff\xef"sv});
-    expectKind(DocumentKind::Other, {"\xff\xd8\xff\xdb"sv, "\xff\xd8\xff"sv});
+    expectKind(DocumentKind::Other, {"\xff\xd8\xff\xdb"sv, "\xff\xd8\xff\xfe"sv, "\xff\xd8\xff"sv});
     EXPECT_EQ(documentOf("\xff\xd8\xff\xdb"sv).name, "a JPEG picture without JFIF or Exif");
 }
 
