@@ -1,12 +1,14 @@
 // Files that are there whole or not at all.
 #include "sizes/command/output_file.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 
 #include "sizes/command/failure.h"
@@ -101,7 +103,7 @@ TEST(WriteFile, DoesNotWriteIntoTheFileThatItReplaces) {
 TEST(WriteFile, FollowsAndReplacesNoLink) {
     const TemporaryFolder folder;
     folder.write("target", "old");
-    for (const char* target : {"target", "nowhere", ".", "/dev/null"}) {
+    for (const char* target : {"target", "nowhere", ".", "/proc/self/fd/1"}) {
         fs::create_symlink(target, folder.path("a"));
         EXPECT_EQ(reasonAgainst(folder.path("a")),
                   folder.path("a") + ": is there and is no ordinary file");
@@ -112,14 +114,18 @@ TEST(WriteFile, FollowsAndReplacesNoLink) {
     EXPECT_EQ(folder.names(), Names{"target"});
 }
 
+// A terminal of the test's own: whoever breaks this as root must not lose a device of the machine.
 TEST(WriteFile, ReplacesNoFolderNoPipeAndNoDevice) {
     const TemporaryFolder folder;
     fs::create_directory(folder.path("folder"));
     ASSERT_EQ(mkfifo(folder.path("pipe").c_str(), 0600), 0);
+    const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
+    ASSERT_EQ(unlockpt(terminal), 0);
     for (const std::string& path :
-         {folder.path("folder"), folder.path("pipe"), std::string("/dev/full")}) {
+         {folder.path("folder"), folder.path("pipe"), std::string(ptsname(terminal))}) {
         EXPECT_EQ(reasonAgainst(path), path + ": is there and is no ordinary file");
     }
+    close(terminal);
     EXPECT_EQ(folder.names(), (Names{"folder", "pipe"}));
 }
 
@@ -153,13 +159,18 @@ TEST(WriteFile, LeavesTheFormerFileAndNothingElseWhenThereIsNoRoom) {
 
 // What the process does between two signals is not known; whatever it is, one file must be whole.
 TEST(WriteFile, LeavesAWholeFileAndNothingElseWheneverItIsEnded) {
+    // In memory: a busy disk takes seconds for every file.
+    setenv("TMPDIR", "/dev/shm", 1);
     const TemporaryFolder folder;
+    unsetenv("TMPDIR");
     const std::string first(100000, 'a');
     const std::string second(100000, 'b');
     writeFile(folder.path("a"), first);
     int ended = 0;
     for (int i = 0; i < 200; ++i) {
         const pid_t child = startChild([&] {
+            // Jobs in the background of a shell script do not hear of it.
+            std::signal(SIGINT, SIG_DFL);
             for (;;) {
                 writeFile(folder.path("a"), first);
                 writeFile(folder.path("a"), second);
