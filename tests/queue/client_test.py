@@ -7,7 +7,7 @@ import subprocess
 import sys
 
 import documents
-from cups_queue import FOLDER, HERE, add_queue, check, faults_in_log, received, run, wait
+from cups_queue import FOLDER, HERE, add_queue, check, faults_of_jobs, received, run, wait
 from expected_dots import expected_dots
 from label_stream import pages_of
 
@@ -88,7 +88,7 @@ def every_size_comes_from_clients(model):
 
 def main(name):
     every_size_comes_from_clients(name)
-    faults = faults_in_log()
+    faults = faults_of_jobs()
     assert not faults, ''.join(faults)
 
 

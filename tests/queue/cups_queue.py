@@ -86,3 +86,8 @@ def faults_in_log():
     """The lines of level error and above in the scheduler's log."""
     with open(f'{FOLDER}/log/error_log', encoding='utf-8', errors='replace') as log:
         return [line for line in log if line[0] in 'ECAX']
+
+
+def faults_of_jobs():
+    """The same without those of connections: clients leave theirs whenever they like."""
+    return [line for line in faults_in_log() if '[Job ' in line]

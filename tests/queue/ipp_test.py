@@ -8,7 +8,7 @@ import subprocess
 import sys
 
 import documents
-from cups_queue import FOLDER, HERE, add_queue, check, faults_in_log, received, run, wait
+from cups_queue import FOLDER, HERE, add_queue, check, faults_of_jobs, received, run, wait
 from expected_dots import expected_dots
 from label_stream import pages_of
 
@@ -140,7 +140,7 @@ def no_suite_fails_that_a_stock_queue_passes():
 def main(name):
     globals()[name]()
     if name != 'no_suite_fails_that_a_stock_queue_passes':
-        faults = faults_in_log()
+        faults = faults_of_jobs()
         assert not faults, ''.join(faults)
 
 
