@@ -15,9 +15,6 @@ struct PrintableDocument {
     DocumentKind kind = DocumentKind::Pdf;
 };
 
-/// What a file is. Throws JobFailure when it cannot be read.
-Document documentAt(const std::string& path);
-
 /// Takes the job's file, or makes one of standard input: all programs want to read it from its
 /// beginning, some of them more than once. Throws JobFailure when it is nothing that can be
 /// printed.

@@ -7,14 +7,15 @@ namespace intake {
 enum class DocumentKind {
     Empty,    ///< no byte at all
     Pdf,      ///<
-    Picture,  ///< one that CUPS's imagetopdf reads
+    Picture,  ///< one that picturetokestolabel reads
     Raster,   ///< CUPS's, PWG's or Apple's
     Other,    ///< nothing that can be printed
 };
 
 struct Document {
     DocumentKind kind = DocumentKind::Other;
-    std::string_view name;  ///< "a JPEG picture", for people; empty when it is not known
+    std::string_view name;     ///< "a JPEG picture", for people; empty when it is not known
+    std::string_view decoder;  ///< what GraphicsMagick calls the format of a picture; else empty
 };
 
 /// How much of a document's beginning tells what it is.

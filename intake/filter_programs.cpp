@@ -35,17 +35,16 @@ std::string serverBin() {
     return folder == nullptr || *folder == '\0' ? KESTO_CUPS_SERVERBIN : folder;
 }
 
-FilterPrograms findPrograms(DocumentKind kind) {
+FilterPrograms findPrograms(DocumentKind kind, bool isLaidOut) {
     FilterPrograms programs{serverBin() + "/filter", {}};
     require(programs, "rastertokestotspl");
-    if (kind == DocumentKind::Raster) {
-        return programs;
-    }
     if (kind == DocumentKind::Picture) {
-        require(programs, "imagetopdf");
+        require(programs, "picturetokestolabel");
     }
-    require(programs, "pdftopdf");
-    programs.converter = findConverter(programs);
+    if (isLaidOut) {
+        require(programs, "pdftopdf");
+        programs.converter = findConverter(programs);
+    }
     return programs;
 }
 

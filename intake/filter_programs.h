@@ -14,9 +14,10 @@ struct FilterPrograms {
     std::string pathOf(const std::string& name) const { return folder + "/" + name; }
 };
 
-/// Looks for those that a kind of document needs, below $CUPS_SERVERBIN or where CUPS was
+/// Looks for those that a kind of document needs, when its pages are laid out and converted or when
+/// they are not, below $CUPS_SERVERBIN or where CUPS was
 /// installed. Throws JobFailure with the name of the one that is missing.
-FilterPrograms findPrograms(DocumentKind kind);
+FilterPrograms findPrograms(DocumentKind kind, bool isLaidOut);
 
 /// The folder of the scheduler's programs.
 std::string serverBin();

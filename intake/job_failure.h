@@ -14,6 +14,9 @@ public:
 /// The job was cancelled. Says nothing more, and is no failure.
 class JobCancelled : public std::exception {};
 
+/// The job cannot be printed, and a child has said why.
+class FailureSaid : public std::exception {};
+
 /// JobFailure with the reason of the last system call.
 [[noreturn]] void failWithReason(const std::string& text);
 

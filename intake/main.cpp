@@ -12,8 +12,8 @@ namespace {
 void printJob(intake::JobArguments arguments) {
     intake::PrintJob job(std::move(arguments));
     job.takeDocument();
-    job.findPrograms();
     job.readQueue();
+    job.findPrograms();
     job.chooseLabel();
     job.print();
 }
@@ -37,6 +37,8 @@ int main(int argc, char* argv[]) {
         return EXIT_SUCCESS;
     } catch (const intake::JobCancelled&) {
         return EXIT_SUCCESS;
+    } catch (const intake::FailureSaid&) {
+        return EXIT_FAILURE;
     } catch (const intake::JobFailure& failure) {
         intake::logLine("ERROR", failure.what());
     } catch (const std::exception& problem) {

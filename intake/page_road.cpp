@@ -3,11 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "intake/descriptor.h"
-#include "intake/file_copy.h"
-#include "intake/job_failure.h"
-#include "intake/printing_step.h"
-#include "intake/raster_gate.h"
+#include "intake/conversion.h"
+#include "intake/picture_road.h"
 #include "intake/step_options.h"
 #include "sizes/job_description.h"
 
@@ -40,85 +37,38 @@ private:
 
     std::string makePdf() {
         std::string picture = folder_.pathOf("picture.pdf");
-        runToFile({"imagetopdf", layoutDescription_, "image/png", sOneCopy, options_.picture.text(),
-                   plan_.document.path},
-                  picture, "the picture is damaged, or of a kind that it does not know");
+        convertToFile(pictureCommand(plan_, options_.picture, true, folder_), picture, {}, folder_,
+                      supervisor_);
         return picture;
     }
 
     // Poppler's converter learns the number of copies from a file only.
     std::string layOut(const std::string& document) {
         std::string pages = folder_.pathOf("pages.pdf");
-        runToFile({"pdftopdf", layoutDescription_, "application/pdf", plan_.arguments.copies,
-                   options_.layout.text(), document},
-                  pages, "the document is damaged, or needs a password");
+        const StepCall call{"pdftopdf",
+                            layoutDescription_,
+                            "application/pdf",
+                            plan_.arguments.copies,
+                            options_.layout.text(),
+                            document};
+        convertToFile(commandFor(call, plan_, folder_), pages,
+                      "the document is damaged, or needs a password", folder_, supervisor_);
         return pages;
-    }
-
-    void runToFile(const StepCall& call, const std::string& path, std::string_view usualReason) {
-        const Descriptor nothing = openFile("/dev/null");
-        Pipe pipe = makePipe();
-        const pid_t child = supervisor_.start(commandFor(call, plan_, folder_), Role::Converter,
-                                              nothing.number(), pipe.writeEnd.number());
-        pipe.writeEnd.close();
-        copyToFile(pipe.readEnd.number(), path, supervisor_);
-        supervisor_.waitForEnd(child);
-        failIfFailed(child, usualReason);
-        // For want of a page pdftopdf writes nothing, or a line end and no more.
-        if (documentAt(path).kind != DocumentKind::Pdf) {
-            failWithoutPage();
-        }
     }
 
     void convert(const std::string& pages) {
         const bool isGhostscript = plan_.programs.converter == "gstoraster";
         const std::string description = describe(
             "raster.ppd", isGhostscript ? sizes::JobStep::Ghostscript : sizes::JobStep::Poppler);
-        const Descriptor nothing = openFile("/dev/null");
-        Pipe raster = makePipe();
-        const StepCall call{plan_.programs.converter,   description,
-                            "application/vnd.cups-pdf", sOneCopy,
-                            options_.laidOut.text(),    pages};
-        const pid_t converter = supervisor_.start(commandFor(call, plan_, folder_), Role::Converter,
-                                                  nothing.number(), raster.writeEnd.number());
-        raster.writeEnd.close();
-        if (!waitForPage(raster.readEnd.number(), supervisor_)) {
-            supervisor_.waitForEnd(converter);
-            failIfFailed(converter, {});
-            failWithoutPage();
-        }
-        print(std::move(raster.readEnd), converter);
-    }
-
-    // The filter reads from the converter itself; nothing passes through here.
-    void print(Descriptor raster, pid_t converter) {
-        const pid_t filter = startPrinting(plan_, layoutDescription_, options_.laidOut.text(),
-                                           raster.number(), folder_, supervisor_);
-        raster.close();
-        while (supervisor_.isRunning(filter)) {
-            supervisor_.wait({});
-        }
-        // What a converter has to say when its reader is gone is not the reason for anything.
-        failIfPrintingFailed(filter, supervisor_);
-        supervisor_.waitForEnd(converter);
-        failIfFailed(converter, {});
-    }
-
-    void failIfFailed(pid_t child, std::string_view usualReason) const {
-        if (!supervisor_.hasFailed(child)) {
-            return;
-        }
-        std::string text = supervisor_.fateOf(child);
-        if (folder_.isFull()) {
-            text += ": there is no room for temporary files in " + folder_.path();
-        } else if (!usualReason.empty()) {
-            text += ": " + std::string(usualReason);
-        }
-        throw JobFailure(text);
-    }
-
-    [[noreturn]] static void failWithoutPage() {
-        throw JobFailure("The document has no page to print");
+        const std::string options = options_.laidOut.text();
+        const StepCall call{plan_.programs.converter,
+                            description,
+                            "application/vnd.cups-pdf",
+                            sOneCopy,
+                            options,
+                            pages};
+        printConverted({commandFor(call, plan_, folder_), layoutDescription_, options}, plan_,
+                       folder_, supervisor_);
     }
 
     const RoadPlan& plan_;

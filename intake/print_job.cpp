@@ -9,8 +9,10 @@
 #include "intake/job_failure.h"
 #include "intake/known_media.h"
 #include "intake/page_road.h"
+#include "intake/picture_road.h"
 #include "intake/raster_road.h"
 #include "intake/spooler.h"
+#include "intake/step_options.h"
 
 namespace intake {
 namespace {
@@ -36,10 +38,6 @@ void PrintJob::takeDocument() {
     document_ = intake::takeDocument(arguments_, folder_, supervisor_);
 }
 
-void PrintJob::findPrograms() {
-    programs_ = intake::findPrograms(document_.kind);
-}
-
 void PrintJob::readQueue() {
     options_ = readOptions(arguments_.options);
     description_ = readDescriptionFile();
@@ -47,6 +45,12 @@ void PrintJob::readQueue() {
     if (queue_.dpi == 0) {
         throw JobFailure("The queue's description names no resolution");
     }
+}
+
+void PrintJob::findPrograms() {
+    const bool isLaidOut = document_.kind == DocumentKind::Pdf ||
+                           (document_.kind == DocumentKind::Picture && needsLayout(options_));
+    programs_ = intake::findPrograms(document_.kind, isLaidOut);
 }
 
 void PrintJob::chooseLabel() {
@@ -67,6 +71,9 @@ void PrintJob::print() {
     }
     if (!label_.difference.empty()) {
         logLine("INFO", label_.difference);
+    }
+    if (document_.kind == DocumentKind::Picture && !needsLayout(options_)) {
+        return printPicture(plan, folder_, supervisor_);
     }
     printPages(plan, folder_, supervisor_);
 }

@@ -20,8 +20,8 @@ public:
     explicit PrintJob(JobArguments arguments);
 
     void takeDocument();
-    void findPrograms();
     void readQueue();
+    void findPrograms();
     void chooseLabel();
     void print();
 

@@ -1,13 +1,18 @@
 #include "intake/step_options.h"
 
 #include <algorithm>
+#include <array>
 #include <initializer_list>
+#include <span>
+#include <string_view>
+#include <utility>
 
 #include "sizes/ascii.h"
 
 namespace intake {
 namespace {
 
+using namespace std::string_view_literals;
 using Words = std::initializer_list<std::string_view>;
 
 bool hasAny(const OptionList& options, Words names) {
@@ -39,37 +44,52 @@ OptionList withFitting(OptionList options) {
     return options;
 }
 
-OptionList pictureOptions(OptionList options, const Label& label) {
-    if (label.isSquare() && !hasAny(options, {"orientation-requested", "landscape"})) {
-        options.set("orientation-requested", "3");
+constexpr std::array sPlacement{"landscape"sv,
+                                "orientation-requested"sv,
+                                "mirror"sv,
+                                "position"sv,
+                                "print-scaling"sv,
+                                "fitplot"sv,
+                                "fit-to-page"sv,
+                                "fill"sv,
+                                "crop-to-fit"sv,
+                                "scaling"sv,
+                                "ppi"sv,
+                                "natural-scaling"sv,
+                                "ipp-attribute-fidelity"sv};
+constexpr std::array sSelection{"page-ranges"sv, "page-set"sv, "Collate"sv,
+                                "multiple-document-handling"sv};
+
+void copy(const OptionList& from, std::span<const std::string_view> names, OptionList& to) {
+    for (const std::string_view name : names) {
+        if (const std::string* value = from.find(name)) {
+            to.set(name, *value);
+        }
+    }
+}
+
+// What lays pages out further also chooses among them.
+OptionList pictureOptions(const OptionList& job) {
+    OptionList options;
+    copy(job, sPlacement, options);
+    if (!needsLayout(job)) {
+        copy(job, sSelection, options);
+    }
+    return options;
+}
+
+OptionList withoutPlacement(OptionList options) {
+    for (const std::string_view name : sPlacement) {
+        options.remove(name);
     }
     return options;
 }
 
 OptionList withoutLayout(OptionList options) {
-    options.remove({"landscape",
-                    "orientation-requested",
-                    "mirror",
-                    "number-up",
-                    "number-up-layout",
-                    "position",
-                    "page-left",
-                    "page-right",
-                    "page-top",
-                    "page-bottom",
-                    "media-left-margin",
-                    "media-right-margin",
-                    "media-top-margin",
-                    "media-bottom-margin",
-                    "print-scaling",
-                    "fitplot",
-                    "fit-to-page",
-                    "fill",
-                    "crop-to-fit",
-                    "scaling",
-                    "natural-scaling",
-                    "ppi"});
-    return options;
+    options.remove({"number-up", "number-up-layout", "page-left", "page-right", "page-top",
+                    "page-bottom", "media-left-margin", "media-right-margin", "media-top-margin",
+                    "media-bottom-margin"});
+    return withoutPlacement(std::move(options));
 }
 
 OptionList withoutPages(OptionList options) {
@@ -78,7 +98,7 @@ OptionList withoutPages(OptionList options) {
     return options;
 }
 
-// A page that is laid out is to come out as it is.
+// A page that has its place is to come out as it is.
 OptionList asItIs(OptionList options) {
     options.set("orientation-requested", "3");
     options.set("print-scaling", "none");
@@ -87,10 +107,25 @@ OptionList asItIs(OptionList options) {
 
 }  // namespace
 
+bool needsLayout(const OptionList& job) {
+    const auto is = [&](std::string_view name, std::initializer_list<std::string_view> values) {
+        const std::string* given = job.find(name);
+        return given != nullptr && std::ranges::any_of(values, [&](std::string_view value) {
+                   return sizes::equalsIgnoringCase(*given, value);
+               });
+    };
+    return (job.has("number-up") && !is("number-up", {"1"})) || hasAny(job, {"page-label"}) ||
+           (job.has("booklet") && !is("booklet", {"off", "no", "false"})) ||
+           (job.has("page-border") && !is("page-border", {"none"})) ||
+           is("OutputOrder", {"Reverse"}) || is("output-order", {"Reverse"}) ||
+           is("page-delivery", {"reverse-order-face-up", "reverse-order-face-down"});
+}
+
 StepOptions stepOptions(const OptionList& job, const Label& label, bool isPicture) {
     const OptionList paged = withPage(job, label);
     const OptionList placed = withoutLayout(paged);
-    StepOptions steps{pictureOptions(paged, label), isPicture ? asItIs(placed) : withFitting(paged),
+    StepOptions steps{pictureOptions(job),
+                      isPicture ? asItIs(withoutPlacement(paged)) : withFitting(paged),
                       withoutPages(placed)};
     if (label.isSquare()) {
         steps.layout.set("pdfAutoRotate", "false");

@@ -9,7 +9,7 @@ namespace intake {
 
 /// The options of a job for each of the programs that print it.
 struct StepOptions {
-    OptionList picture;  ///< imagetopdf, which places a picture on the page
+    OptionList picture;  ///< picturetokestolabel: what places a picture and chooses pages
     OptionList layout;   ///< pdftopdf
     OptionList laidOut;  ///< all behind it, for which nothing is left to lay out
 };
@@ -22,8 +22,12 @@ struct StepOptions {
 ///   cut the document's edges off.
 /// - A square label is neither upright nor across, so nothing is turned on it unless the job asks
 ///   for that.
-/// - A picture is laid out by imagetopdf, which makes it as large as the page of itself; pdftopdf
-///   then only counts its copies.
+/// - A picture comes to pdftopdf as pages of the label's size, which need no more turning, and
+///   none of them has been left out yet.
 StepOptions stepOptions(const OptionList& job, const Label& label, bool isPicture);
+
+/// Whether a picture's pages have to be laid out further: several on a label, as a booklet, with
+/// a border or a text, or the last one first.
+bool needsLayout(const OptionList& job);
 
 }  // namespace intake

@@ -155,6 +155,12 @@ void Supervisor::waitForEnd(pid_t child) {
     }
 }
 
+bool Supervisor::hasSaidWhy(pid_t child) const {
+    const Child& ended = childOf(child);
+    return ended.name == "picturetokestolabel" && WIFEXITED(ended.status) &&
+           WEXITSTATUS(ended.status) == EXIT_FAILURE;
+}
+
 std::string Supervisor::fateOf(pid_t child) const {
     const Child& ended = childOf(child);
     if (WIFSIGNALED(ended.status)) {

@@ -40,6 +40,8 @@ public:
 
     bool isRunning(pid_t child) const;
     bool hasFailed(pid_t child) const;
+    /// Whether it is one of ours that writes the reason to the log before it ends with status 1.
+    bool hasSaidWhy(pid_t child) const;
 
     /// Sleeps until the child has ended.
     void waitForEnd(pid_t child);

@@ -1,0 +1,31 @@
+#include "intake/picture/decoder.h"
+
+#include <magick/api.h>
+
+namespace intake::picture {
+namespace {
+
+constexpr magick_int64_t sMebibyte = magick_int64_t{1} << 20;
+// Of one picture, decoded. Each takes eight bytes.
+constexpr magick_int64_t sMostSamples = 128 * sMebibyte;
+constexpr magick_int64_t sMostMemory = 256 * sMebibyte;
+// In $TMPDIR, for what does not fit into that memory.
+constexpr magick_int64_t sMostDisk = 1024 * sMebibyte;
+constexpr magick_int64_t sLongestSide = 65535;
+
+}  // namespace
+
+void startDecoder() {
+    // SIGTERM ends the process, as its starter expects, and not the library.
+    InitializeMagickEx(nullptr, MAGICK_OPT_NO_SIGNAL_HANDER, nullptr);
+    SetMagickResourceLimit(PixelsResource, sMostSamples);
+    SetMagickResourceLimit(WidthResource, sLongestSide);
+    SetMagickResourceLimit(HeightResource, sLongestSide);
+    SetMagickResourceLimit(MemoryResource, sMostMemory);
+    SetMagickResourceLimit(MapResource, 0);
+    SetMagickResourceLimit(DiskResource, sMostDisk);
+    // A label is not worth a second one, and a busy print server has others to do.
+    SetMagickResourceLimit(ThreadsResource, 1);
+}
+
+}  // namespace intake::picture

@@ -1,0 +1,28 @@
+#include "intake/picture/library_problem.h"
+
+#include <cstring>
+
+#include "intake/job_failure.h"
+
+namespace intake::picture {
+
+bool LibraryProblem::isDamage() const {
+    return says("remature end") || says("uffman code") || says("resync");
+}
+
+bool LibraryProblem::says(const char* words) const {
+    return info_.reason != nullptr && std::strstr(info_.reason, words) != nullptr;
+}
+
+std::string LibraryProblem::text() const {
+    if (info_.reason == nullptr || *info_.reason == '\0') {
+        return "the decoder does not say why";
+    }
+    return GetLocaleExceptionMessage(info_.severity, info_.reason);
+}
+
+void failToRead(const std::string& reason) {
+    throw JobFailure("The picture cannot be read: " + reason);
+}
+
+}  // namespace intake::picture
