@@ -40,20 +40,52 @@ TEST(DocumentKind, OfPicturesIsPicture) {
                 "\x59\xa6\x6a\x95\0"sv, std::string(2048, '\0') + "PCD_IPI"});
 }
 
-TEST(DocumentKind, OfJpegPicturesNeedsTheApplicationsSegment) {
+TEST(DocumentKind, OfJpegPicturesNeedsNoApplicationsSegment) {
     expectKind(DocumentKind::Picture, {"\xff\xd8\xff\xe0\0\x10JFIF"sv, "\xff\xd8\xff\xe1\0\0Exif"sv,
-                                       "\xff\xd8\xff\xef"sv});
-    expectKind(DocumentKind::Other, {"\xff\xd8\xff\xdb"sv, "\xff\xd8\xff\xfe"sv, "\xff\xd8\xff"sv});
-    EXPECT_EQ(documentOf("\xff\xd8\xff\xdb"sv).name, "a JPEG picture without JFIF or Exif");
+                                       "\xff\xd8\xff\xdb"sv, "\xff\xd8\xff\xfe"sv});
+    expectKind(DocumentKind::Other, {"\xff\xd8"sv});
+}
+
+TEST(DocumentKind, OfNewerPicturesIsPicture) {
+    expectKind(DocumentKind::Picture, {"RIFF\1\2\3\4WEBPVP8 ",
+                                       "\0\0\0\x18"
+                                       "ftypheic"sv,
+                                       "\0\0\0\x18"
+                                       "ftypmif1"sv,
+                                       "\0\0\0\x1c"
+                                       "ftypavif"sv,
+                                       "\xff\x0a\x51"sv, "\0\0\0\x0cJXL \r\n\x87\n"sv,
+                                       "P7\nWIDTH 2", "MM\0+\0\x08"sv, "II+\0\x08"sv});
+    expectKind(DocumentKind::Other, {"RIFF\1\2\3\4WAVE",
+                                     "\0\0\0\x18"
+                                     "ftypmp42"sv,
+                                     "P8\n"});
+}
+
+TEST(DocumentKind, OfPicturesWrittenAsProgramsIsPicture) {
+    expectKind(DocumentKind::Picture,
+               {"/* XPM */\nstatic char *a[] = {",
+                "#define a_width 8\n#define a_height 2\nstatic char a_bits[] = { 0x0f"});
+    expectKind(DocumentKind::Other,
+               {"#define a_width 8\nint main() {}", "#include <stdio.h>\n", "/* XPM"});
+}
+
+TEST(DocumentKind, NamesTheDecoderOfAPicture) {
+    EXPECT_EQ(documentOf("\x89PNG").decoder, "PNG");
+    EXPECT_EQ(documentOf("RIFF\1\2\3\4WEBP").decoder, "WEBP");
+    EXPECT_EQ(documentOf("P4\n").decoder, "PNM");
+    EXPECT_EQ(documentOf("#define w_width 1\n#define w_height 1\nchar w_bits[]").decoder, "XBM");
+    EXPECT_EQ(documentOf("%PDF-1.4").decoder, "");
 }
 
 TEST(DocumentKind, OfOtherThingsIsOther) {
-    expectKind(DocumentKind::Other, {"x", "P7\n", "P", "\0"sv, "%!PS-Adobe", "RIFF....WEBP"});
+    expectKind(DocumentKind::Other, {"x", "P", "\0"sv, "%!PS-Adobe", "RIFF....WEBX"});
 }
 
 TEST(DocumentKind, HasANameForSomeThatCannotBePrinted) {
     EXPECT_EQ(documentOf("%!PS-Adobe-3.0").name, "PostScript");
-    EXPECT_EQ(documentOf("RIFF\1\2\3\4WEBPVP8 ").name, "a WebP picture");
+    EXPECT_EQ(documentOf("8BPS\0\1"sv).name, "a Photoshop picture");
+    EXPECT_EQ(documentOf("<?xml version=\"1.0\"?>\n<svg width=\"9\"").name, "an SVG picture");
     EXPECT_EQ(documentOf("Hello").name, "");
 }
 

@@ -36,7 +36,7 @@ TEST(StepOptions, AskForTheLabelsPageAloneAndForNoCopies) {
                                    {"media-col", "{}"},
                                    {"copies", "3"},
                                    {"Darkness", "5"}});
-    for (const OptionList& options : {steps.picture, steps.layout, steps.laidOut}) {
+    for (const OptionList& options : {steps.layout, steps.laidOut}) {
         EXPECT_EQ(valueOf(options, "PageSize"), "name");
         EXPECT_EQ(valueOf(options, "Darkness"), "5");
         for (const char* name : {"media", "PageRegion", "media-col", "copies"}) {
@@ -59,11 +59,20 @@ TEST(StepOptions, FitALargerDocumentUnlessTheJobSaysOtherwise) {
     }
 }
 
-TEST(StepOptions, LeaveTheScalingOfAPictureToImagetopdf) {
+TEST(StepOptions, GiveAPictureWhatPlacesIt) {
     EXPECT_EQ(valueOf(forPicture({}).picture, "print-scaling"), "(none)");
-    EXPECT_EQ(valueOf(forPicture({{"print-scaling", "auto"}}).picture, "print-scaling"), "auto");
-    EXPECT_EQ(valueOf(forPicture({{"print-scaling", "fill"}}).picture, "print-scaling"), "fill");
-    EXPECT_EQ(valueOf(forPicture({{"scaling", "50"}}).picture, "scaling"), "50");
+    for (const char* name : {"landscape", "orientation-requested", "mirror", "position",
+                             "print-scaling", "fitplot", "fit-to-page", "fill", "crop-to-fit",
+                             "scaling", "ppi", "natural-scaling", "ipp-attribute-fidelity",
+                             "page-ranges", "page-set", "Collate", "multiple-document-handling"}) {
+        EXPECT_EQ(valueOf(forPicture({{name, "x"}}).picture, name), "x") << name;
+    }
+}
+
+TEST(StepOptions, GiveAPictureNothingElse) {
+    EXPECT_TRUE(forPicture({{"media", "A4"}, {"Darkness", "5"}, {"job-uuid", "urn:x"}})
+                    .picture.all()
+                    .empty());
 }
 
 TEST(StepOptions, LayAPictureOutOnce) {
@@ -71,22 +80,47 @@ TEST(StepOptions, LayAPictureOutOnce) {
                                    {"mirror", "true"},
                                    {"number-up", "4"},
                                    {"position", "top"},
-                                   {"page-left", "36"},
                                    {"scaling", "50"},
                                    {"page-ranges", "1"},
                                    {"fit-to-page", "true"},
                                    {"ppi", "9"}});
-    EXPECT_EQ(valueOf(steps.picture, "landscape"), "true");
-    EXPECT_EQ(valueOf(steps.picture, "mirror"), "true");
-    for (const char* name : {"landscape", "mirror", "number-up", "position", "page-left", "scaling",
-                             "fit-to-page", "ppi"}) {
+    for (const char* name : {"landscape", "mirror", "position", "scaling", "fit-to-page", "ppi"}) {
+        EXPECT_NE(valueOf(steps.picture, name), "(none)") << name;
         EXPECT_EQ(valueOf(steps.layout, name), "(none)") << name;
         EXPECT_EQ(valueOf(steps.laidOut, name), "(none)") << name;
     }
-    EXPECT_EQ(valueOf(steps.layout, "page-ranges"), "1");
-    EXPECT_EQ(valueOf(steps.laidOut, "page-ranges"), "(none)");
+    EXPECT_EQ(valueOf(steps.picture, "number-up"), "(none)");
+    EXPECT_EQ(valueOf(steps.layout, "number-up"), "4");
+    EXPECT_EQ(valueOf(steps.laidOut, "number-up"), "(none)");
     EXPECT_EQ(valueOf(steps.layout, "orientation-requested"), "3");
     EXPECT_EQ(valueOf(steps.layout, "print-scaling"), "none");
+}
+
+TEST(StepOptions, ChooseThePagesOfAPictureOnce) {
+    const auto laidOut = forPicture({{"number-up", "2"}, {"page-ranges", "1"}});
+    EXPECT_EQ(valueOf(laidOut.picture, "page-ranges"), "(none)");
+    EXPECT_EQ(valueOf(laidOut.layout, "page-ranges"), "1");
+    EXPECT_EQ(valueOf(laidOut.laidOut, "page-ranges"), "(none)");
+    EXPECT_EQ(valueOf(forPicture({{"page-ranges", "1"}}).laidOut, "page-ranges"), "(none)");
+}
+
+TEST(StepOptions, LayAPictureOutFurtherWhenThereIsMoreToDo) {
+    const auto is = [](std::string_view name, std::string_view value) {
+        return needsLayout(optionsOf({{std::string(name), std::string(value)}}));
+    };
+    EXPECT_FALSE(needsLayout({}));
+    EXPECT_TRUE(is("number-up", "2"));
+    EXPECT_FALSE(is("number-up", "1")) << "which clients send of themselves";
+    EXPECT_FALSE(is("number-up", ""));
+    EXPECT_TRUE(is("booklet", "On"));
+    EXPECT_FALSE(is("booklet", "off"));
+    EXPECT_TRUE(is("page-border", "single"));
+    EXPECT_FALSE(is("page-border", "none"));
+    EXPECT_TRUE(is("page-label", "Draft"));
+    EXPECT_TRUE(is("OutputOrder", "reverse"));
+    EXPECT_FALSE(is("OutputOrder", "Normal"));
+    EXPECT_TRUE(is("page-delivery", "reverse-order-face-up"));
+    EXPECT_FALSE(is("ppi", "203"));
 }
 
 TEST(StepOptions, LayAPdfDocumentOutOnce) {
@@ -100,19 +134,7 @@ TEST(StepOptions, LayAPdfDocumentOutOnce) {
 TEST(StepOptions, TurnNothingOnASquareLabel) {
     EXPECT_EQ(valueOf(forPdf({}, label(50, 50)).layout, "pdfAutoRotate"), "false");
     EXPECT_EQ(valueOf(forPdf({}, label(50, 51)).layout, "pdfAutoRotate"), "(none)");
-    const auto picture = forPicture({}, label(50, 50));
-    EXPECT_EQ(valueOf(picture.picture, "orientation-requested"), "3");
-    EXPECT_EQ(valueOf(picture.layout, "pdfAutoRotate"), "false");
-    EXPECT_EQ(valueOf(forPicture({}, label(50, 51)).picture, "orientation-requested"), "(none)");
-}
-
-TEST(StepOptions, TurnAPictureOnASquareLabelWhenTheJobAsksForIt) {
-    const auto square = label(50, 50);
-    EXPECT_EQ(valueOf(forPicture({{"orientation-requested", "4"}}, square).picture,
-                      "orientation-requested"),
-              "4");
-    EXPECT_EQ(valueOf(forPicture({{"landscape", "true"}}, square).picture, "orientation-requested"),
-              "(none)");
+    EXPECT_EQ(valueOf(forPicture({}, label(50, 50)).layout, "pdfAutoRotate"), "false");
 }
 
 }  // namespace
