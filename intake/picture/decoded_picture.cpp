@@ -2,6 +2,7 @@
 
 #include <magick/api.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "intake/picture/grey.h"
@@ -58,17 +59,37 @@ PixelPacket onPaper(PixelPacket pixel) {
     return pixel;
 }
 
-void copyInks(const PixelPacket& pixel, std::uint16_t* sample) {
-    sample[0] = pixel.red;
-    sample[1] = pixel.green;
-    sample[2] = pixel.blue;
-    sample[3] = pixel.opacity;
-}
-
 void copyLight(const PixelPacket& pixel, std::uint16_t* sample) {
     sample[0] = pixel.red;
     sample[1] = pixel.green;
     sample[2] = pixel.blue;
+}
+
+void copyInks(const PixelPacket& pixel, std::uint16_t* sample) {
+    copyLight(pixel, sample);
+    sample[3] = pixel.opacity;
+}
+
+// Some programs write zeros where transparency would be.
+bool isNothingToBeSeen(Image& image) {
+    LibraryProblem problem;
+    for (unsigned long row = 0; row < image.rows; ++row) {
+        const PixelPacket* const pixels =
+            AcquireImagePixels(&image, 0, static_cast<long>(row), image.columns, 1, problem.info());
+        const auto isTransparent = [](const PixelPacket& pixel) {
+            return pixel.opacity == TransparentOpacity;
+        };
+        if (pixels == nullptr || !std::all_of(pixels, pixels + image.columns, isTransparent)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::uint16_t spread(Quantum byte, unsigned highest) {
+    constexpr unsigned spreadOfByte = 257;
+    const unsigned value = std::min(byte / spreadOfByte, highest);
+    return static_cast<std::uint16_t>((value * mostLight + highest / 2) / highest);
 }
 
 }  // namespace
@@ -77,7 +98,13 @@ void DestroyImage::operator()(_Image* image) const {
     DestroyImageList(image);
 }
 
-DecodedPicture::DecodedPicture(LibraryImage image) : image_(std::move(image)) {
+DecodedPicture::DecodedPicture(LibraryImage image, const FileDetails& details)
+    : image_(std::move(image)), transparent_(details.transparent) {
+    if (details.narrow) {
+        highest_ = details.narrow->highest;
+    }
+    isTransparent_ = image_->matte != 0U && !isInks(*image_) && !details.hasNoAlpha &&
+                     !(details.mayHaveNoAlpha && isNothingToBeSeen(*image_));
     Colour colour = colourOf(*image_);
     channels_ = colour.channels;
     profile_ = std::move(colour.profile);
@@ -99,20 +126,60 @@ std::span<const std::uint16_t> DecodedPicture::row(unsigned index) {
     if (pixels == nullptr) {
         failToRead(problem.text());
     }
-    const bool inks = isInks(*image_);
-    const bool isTransparent = image_->matte != 0U && !inks;
-    for (unsigned column = 0; column < width(); ++column) {
-        const PixelPacket pixel = isTransparent ? onPaper(pixels[column]) : pixels[column];
-        std::uint16_t* const sample = &samples_[std::size_t{column} * channels_];
-        if (channels_ == 4) {
-            copyInks(pixel, sample);
-        } else if (channels_ == 3) {
-            copyLight(pixel, sample);
-        } else {
-            *sample = inks ? lumaOfInks(pixel) : lumaOf(pixel);
-        }
-    }
+    copy({pixels, image_->columns});
     return samples_;
+}
+
+void DecodedPicture::copy(std::span<const _PixelPacket> pixels) {
+    if (highest_ > 0 || transparent_) {
+        return copySpecial(pixels);
+    }
+    if (isInks(*image_)) {
+        return channels_ == 4
+                   ? copyWith(pixels, copyInks)
+                   : copyWith(pixels, [](const PixelPacket& pixel, std::uint16_t* sample) {
+                         *sample = lumaOfInks(pixel);
+                     });
+    }
+    if (isTransparent_) {
+        return copyWith(pixels, [this](const PixelPacket& pixel, std::uint16_t* sample) {
+            copyOpaque(onPaper(pixel), sample);
+        });
+    }
+    copyWith(pixels, [this](const PixelPacket& pixel, std::uint16_t* sample) {
+        copyOpaque(pixel, sample);
+    });
+}
+
+void DecodedPicture::copySpecial(std::span<const _PixelPacket> pixels) {
+    copyWith(pixels, [this](PixelPacket pixel, std::uint16_t* sample) {
+        if (highest_ > 0) {
+            pixel.red = spread(pixel.red, highest_);
+            pixel.green = spread(pixel.green, highest_);
+            pixel.blue = spread(pixel.blue, highest_);
+        }
+        if (transparent_ && std::array{pixel.red, pixel.green, pixel.blue} == *transparent_) {
+            pixel.red = pixel.green = pixel.blue = mostLight;
+        }
+        copyOpaque(pixel, sample);
+    });
+}
+
+void DecodedPicture::copyOpaque(const _PixelPacket& pixel, std::uint16_t* sample) const {
+    if (channels_ == 1) {
+        *sample = lumaOf(pixel);
+    } else {
+        copyLight(pixel, sample);
+    }
+}
+
+template <class Copy>
+void DecodedPicture::copyWith(std::span<const _PixelPacket> pixels, const Copy& copy) {
+    std::uint16_t* sample = samples_.data();
+    for (const PixelPacket& pixel : pixels) {
+        copy(pixel, sample);
+        sample += channels_;
+    }
 }
 
 }  // namespace intake::picture

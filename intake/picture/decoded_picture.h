@@ -1,13 +1,17 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
 #include "intake/picture/colour_profile.h"
+#include "intake/picture/file_details.h"
 
 struct _Image;
+struct _PixelPacket;
 
 namespace intake::picture {
 
@@ -20,7 +24,7 @@ using LibraryImage = std::unique_ptr<_Image, DestroyImage>;
 /// One picture of a file, decoded.
 class DecodedPicture {
 public:
-    explicit DecodedPicture(LibraryImage image);
+    DecodedPicture(LibraryImage image, const FileDetails& details);
 
     /// As it lies in the file, before its turn.
     unsigned width() const;
@@ -36,7 +40,16 @@ public:
     std::span<const std::uint16_t> row(unsigned index);
 
 private:
+    void copy(std::span<const _PixelPacket> pixels);
+    void copySpecial(std::span<const _PixelPacket> pixels);
+    void copyOpaque(const _PixelPacket& pixel, std::uint16_t* sample) const;
+    template <class Copy>
+    void copyWith(std::span<const _PixelPacket> pixels, const Copy& copy);
+
     LibraryImage image_;
+    bool isTransparent_ = false;
+    unsigned highest_ = 0;  // value of a sample; 0: the usual one
+    std::optional<std::array<std::uint16_t, 3>> transparent_;
     unsigned channels_ = 1;
     std::unique_ptr<ColourProfile> profile_;
     std::vector<std::uint16_t> samples_;

@@ -6,8 +6,8 @@ namespace intake::picture {
 namespace {
 
 constexpr magick_int64_t sMebibyte = magick_int64_t{1} << 20;
-// Of one picture, decoded. Each takes eight bytes.
-constexpr magick_int64_t sMostSamples = 128 * sMebibyte;
+// Of one picture, decoded. Each takes eight bytes, or ten of a picture with a palette.
+constexpr magick_int64_t sMostSamples = 100'000'000;
 constexpr magick_int64_t sMostMemory = 256 * sMebibyte;
 // In $TMPDIR, for what does not fit into that memory.
 constexpr magick_int64_t sMostDisk = 1024 * sMebibyte;

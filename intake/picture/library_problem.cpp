@@ -14,11 +14,16 @@ bool LibraryProblem::says(const char* words) const {
     return info_.reason != nullptr && std::strstr(info_.reason, words) != nullptr;
 }
 
-std::string LibraryProblem::text() const {
+std::string LibraryProblem::text(std::string_view path) const {
     if (info_.reason == nullptr || *info_.reason == '\0') {
         return "the decoder does not say why";
     }
-    return GetLocaleExceptionMessage(info_.severity, info_.reason);
+    std::string text = GetLocaleExceptionMessage(info_.severity, info_.reason);
+    if (const std::string name = std::string(path) + ": "; text.starts_with(name)) {
+        text.erase(0, name.size());
+    }
+    // "Disk space limit exceeded (see -limit Disk)"
+    return text.substr(0, text.find(" (see -"));
 }
 
 void failToRead(const std::string& reason) {

@@ -3,6 +3,7 @@
 #include <magick/api.h>
 
 #include <string>
+#include <string_view>
 
 namespace intake::picture {
 
@@ -19,8 +20,8 @@ public:
     /// A warning that a part of the picture is missing. Of much else that is warned of nothing can
     /// be seen.
     bool isDamage() const;
-    /// The reason, for people.
-    std::string text() const;
+    /// The reason, for people, who know what file it is and cannot set the library's options.
+    std::string text(std::string_view path = {}) const;
 
 private:
     bool says(const char* words) const;

@@ -10,6 +10,7 @@
 #include "intake/document_file.h"
 #include "intake/job_failure.h"
 #include "intake/picture/library_problem.h"
+#include "intake/picture/mapped_file.h"
 
 namespace intake::picture {
 namespace {
@@ -22,8 +23,8 @@ struct DestroyInfo {
 using Info = std::unique_ptr<ImageInfo, DestroyInfo>;
 
 // The format stands before the name, so that no other decoder has a look at the file.
-Info infoOf(const Document& document, const std::string& path) {
-    const std::string name = std::string(document.decoder) + ":" + path;
+Info infoOf(std::string_view decoder, const std::string& path) {
+    const std::string name = std::string(decoder) + ":" + path;
     if (name.size() >= MaxTextExtent) {
         throw JobFailure("The name of the picture's file is too long: " + path);
     }
@@ -33,22 +34,46 @@ Info infoOf(const Document& document, const std::string& path) {
     return info;
 }
 
+void setSize(ImageInfo& info, unsigned width, unsigned height) {
+    const std::string size = std::to_string(width) + "x" + std::to_string(height);
+    CloneString(&info.size, size.c_str());
+}
+
+// The decoder of PNM takes such samples for packed ones: read as bytes without a head they are not.
+LibraryImage readNarrow(const NarrowSamples& samples, const std::string& path,
+                        LibraryProblem& problem) {
+    const Info info = infoOf(samples.isColour ? "RGB" : "GRAY", {});
+    setSize(*info, samples.width, samples.height);
+    info->depth = 8;
+    const MappedFile file(path);
+    const auto bytes = file.bytes().subspan(std::min(samples.begin, file.bytes().size()));
+    return LibraryImage(BlobToImage(info.get(), bytes.data(), bytes.size(), problem.info()));
+}
+
 void selectPictures(ImageInfo& info, std::size_t first, std::size_t count) {
     info.subimage = first;
     info.subrange = count;
 }
 
-// EXIF's numbers and the library's are the same.
-int orientationOf(const Image& image) {
+int orientationOf(const Image& image, const FileDetails& details) {
+    if (details.orientation) {
+        return *details.orientation;
+    }
     if (image.orientation != UndefinedOrientation) {
         return image.orientation;
     }
-    const ImageAttribute* const exif = GetImageAttribute(&image, "EXIF:Orientation");
-    return exif == nullptr || exif->value == nullptr ? 1 : std::atoi(exif->value);
+    std::size_t size = 0;
+    const unsigned char* const exif = GetImageProfile(&image, "EXIF", &size);
+    return exif == nullptr ? 1 : exifOrientation({exif, size}).value_or(1);
 }
 
 bool isTurnedByDecoder(const Document& document) {
-    return document.decoder == "HEIC" || document.decoder == "AVIF" || document.decoder == "JXL";
+    return document.decoder == "HEIC" || document.decoder == "AVIF";
+}
+
+// Those that tell all but the samples without decoding them.
+bool hasOutlines(const Document& document) {
+    return document.decoder == "JPEG" || document.decoder == "TIFF";
 }
 
 double perInch(double resolution, ResolutionType unit) {
@@ -59,14 +84,14 @@ double perInch(double resolution, ResolutionType unit) {
                : resolution * (unit == PixelsPerCentimeterResolution ? centimetresPerInch : 1);
 }
 
-PictureOutline outlineOf(const Image& image, const Document& document) {
+PictureOutline outlineOf(const Image& image, const Document& document, const FileDetails& details) {
     PictureOutline outline;
     outline.width = static_cast<unsigned>(image.columns);
     outline.height = static_cast<unsigned>(image.rows);
     outline.ppiAcross = perInch(image.x_resolution, image.units);
     outline.ppiDown = perInch(image.y_resolution, image.units);
     if (!isTurnedByDecoder(document)) {
-        outline.turn = turnOfOrientation(orientationOf(image));
+        outline.turn = turnOfOrientation(orientationOf(image, details));
     }
     return outline;
 }
@@ -82,42 +107,59 @@ PictureFile::PictureFile(std::string path) : path_(std::move(path)), document_(d
     if (document_.kind != DocumentKind::Picture) {
         failToRead("it is no picture of a kind that is known");
     }
-    const Info info = infoOf(document_, path_);
-    const bool hasPages = document_.decoder == "TIFF";
-    selectPictures(*info, 0, hasPages ? sMostPictures : 1);
+    details_ = detailsOf(path_, document_);
+    if (hasOutlines(document_)) {
+        readOutlines();
+    } else {
+        decoded_ = read(0, 1);
+        pictures_.push_back(outlineOf(*decoded_, document_, details_));
+    }
+}
+
+void PictureFile::readOutlines() {
+    const Info info = infoOf(document_.decoder, path_);
+    selectPictures(*info, 0, document_.decoder == "TIFF" ? sMostPictures : 1);
     LibraryProblem problem;
     const LibraryImage images(PingImage(info.get(), problem.info()));
-    for (const Image* image = images.get(); image != nullptr;
-         image = hasPages ? image->next : nullptr) {
-        pictures_.push_back(outlineOf(*image, document_));
-    }
-    if (problem.isError()) {
-        problem_ = problem.text();
+    for (const Image* image = images.get(); image != nullptr; image = image->next) {
+        pictures_.push_back(outlineOf(*image, document_, details_));
     }
     if (pictures_.empty()) {
-        failToRead(problem.text());
+        failToRead(problem.text(path_));
     }
+    if (problem.isError()) {
+        problem_ = problem.text(path_);
+    }
+}
+
+LibraryImage PictureFile::read(std::size_t index, unsigned reduction) const {
+    LibraryProblem problem;
+    LibraryImage image = details_.narrow ? readNarrow(*details_.narrow, path_, problem)
+                                         : readWith(index, reduction, problem);
+    if (!image || problem.isError() || problem.isDamage()) {
+        failToRead(problem.text(path_));
+    }
+    return image;
+}
+
+LibraryImage PictureFile::readWith(std::size_t index, unsigned reduction,
+                                   LibraryProblem& problem) const {
+    const Info info = infoOf(document_.decoder, path_);
+    selectPictures(*info, index, 1);
+    if (reduction > 1) {
+        const PictureOutline& outline = pictures_.at(index);
+        setSize(*info, outline.width / reduction, outline.height / reduction);
+    }
+    return LibraryImage(ReadImage(info.get(), problem.info()));
 }
 
 bool PictureFile::canReduce() const {
     return document_.decoder == "JPEG";
 }
 
-DecodedPicture PictureFile::decode(std::size_t index, unsigned reduction) const {
-    const Info info = infoOf(document_, path_);
-    selectPictures(*info, index, 1);
-    if (reduction > 1) {
-        const PictureOutline& outline = pictures_.at(index);
-        const std::string size = std::to_string(outline.width / reduction) + "x" +
-                                 std::to_string(outline.height / reduction);
-        CloneString(&info->size, size.c_str());
-    }
-    LibraryProblem problem;
-    LibraryImage image(ReadImage(info.get(), problem.info()));
-    if (!image || problem.isError() || problem.isDamage()) {
-        failToRead(problem.text());
-    }
-    return DecodedPicture(std::move(image));
+DecodedPicture PictureFile::decode(std::size_t index, unsigned reduction) {
+    LibraryImage image = decoded_ ? std::move(decoded_) : read(index, reduction);
+    return {std::move(image), details_};
 }
 
 }  // namespace intake::picture

@@ -11,6 +11,8 @@
 
 namespace intake::picture {
 
+class LibraryProblem;
+
 /// What is known of one picture of a file before it is decoded.
 struct PictureOutline {
     unsigned width = 1;    ///< samples, as it lies in the file
@@ -35,11 +37,17 @@ public:
     /// Whether its decoder can make pictures smaller on its own.
     bool canReduce() const;
     /// Decodes one, made smaller by `reduction`: 1, or 2, 4 or 8 if it can. Throws JobFailure.
-    DecodedPicture decode(std::size_t index, unsigned reduction) const;
+    DecodedPicture decode(std::size_t index, unsigned reduction);
 
 private:
+    void readOutlines();
+    LibraryImage read(std::size_t index, unsigned reduction) const;
+    LibraryImage readWith(std::size_t index, unsigned reduction, LibraryProblem& problem) const;
+
     std::string path_;
     Document document_;
+    FileDetails details_;
+    LibraryImage decoded_;  // of formats that have to be decoded for their outlines
     std::vector<PictureOutline> pictures_;
     std::string problem_;
 };

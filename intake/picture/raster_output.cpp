@@ -1,6 +1,7 @@
 #include <cups/raster.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 
@@ -63,16 +64,25 @@ public:
             isBegun_ = true;
         }
         writeAll(descriptor_, bytesOf(header_));
-        std::vector<char> ink(label.dots.size());
-        std::ranges::transform(label.dots, ink.begin(), [](std::uint8_t level) {
-            return static_cast<char>(static_cast<unsigned char>(~level));
-        });
-        writeAll(descriptor_, ink);
+        for (std::span<const std::uint8_t> rest(label.dots); !rest.empty();) {
+            const auto piece = rest.first(std::min(rest.size(), ink_.size()));
+            writeInk(piece);
+            rest = rest.subspan(piece.size());
+        }
     }
 
     void finish() override {}
 
 private:
+    void writeInk(std::span<const std::uint8_t> dots) {
+        std::ranges::transform(dots, ink_.begin(), [](std::uint8_t level) {
+            return static_cast<char>(static_cast<unsigned char>(~level));
+        });
+        writeAll(descriptor_, std::span(ink_).first(dots.size()));
+    }
+
+    // As much as a pipe takes.
+    std::array<char, 1U << 16U> ink_;
     int descriptor_;
     cups_page_header2_t header_;
     bool isBegun_ = false;
