@@ -11,6 +11,8 @@ install(PROGRAMS packaging/kesto-tspl-clean DESTINATION ${CMAKE_INSTALL_SBINDIR}
 install(FILES ppd/kesto-tspl.drv DESTINATION ${KESTO_CUPS_DATADIR}/drv)
 # What a description includes lies here; in the folder above everything counts as a description.
 install(FILES ppd/kesto-tspl-de.po DESTINATION ${KESTO_CUPS_DATADIR}/ppdc)
+install(FILES packaging/kesto-tspl.types packaging/kesto-tspl.convs
+    DESTINATION ${KESTO_CUPS_DATADIR}/mime)
 install(FILES packaging/printer-driver-kesto-tspl.ppd-updater
     DESTINATION ${KESTO_CUPS_DATADIR}/ppd-updaters)
 install(FILES docs/man/tsplpreview.1 docs/man/kesto-tspl-size.1
