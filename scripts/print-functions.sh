@@ -3,6 +3,7 @@
 # shellcheck shell=bash
 
 intake=build/intake/documenttokestotspl
+picture_program=build/intake/picture/picturetokestolabel
 filter_program=build/filter/rastertokestotspl
 previewer=build/preview/tsplpreview
 
@@ -36,7 +37,7 @@ link_programs() {
     for filter in "$(cups-config --serverbin)"/filter/*; do
         ln -sf "$filter" "$programs/filter/"
     done
-    for own in "$intake" "$filter_program"; do
+    for own in "$intake" "$picture_program" "$filter_program"; do
         ln -sf "$PWD/$own" "$programs/filter/"
     done
 }

@@ -19,7 +19,7 @@ exec {program} "$@"
 def recording(converter='gstoraster'):
     """A folder of programs that write down how they are called."""
     programs = {name: intake_run.CUPS_FILTERS + name for name in ('imagetopdf', 'pdftopdf', converter)}
-    programs['rastertokestotspl'] = intake_run.FILTER
+    programs.update(rastertokestotspl=intake_run.FILTER, picturetokestolabel=intake_run.PICTURE)
     return server_bin(converter, **{
         name: script(RECORD.format(folder=FOLDER, program=path)) for name, path in programs.items()})
 

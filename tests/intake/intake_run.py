@@ -15,7 +15,7 @@ sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), '../
 sys.dont_write_bytecode = True
 import label_stream
 
-INTAKE, FILTER, PREVIEWER, INSTALLED = (os.path.abspath(name) for name in sys.argv[1:5])
+INTAKE, FILTER, PICTURE, PREVIEWER, INSTALLED = (os.path.abspath(name) for name in sys.argv[1:6])
 CUPS_FILTERS = '/usr/lib/cups/filter/'
 CONVERTERS = ('gstoraster', 'pdftoraster')
 FOLDER = tempfile.mkdtemp(prefix='intake-test-')
@@ -45,7 +45,7 @@ def server_bin(converter='gstoraster', but=(), **others):
     folder = tempfile.mkdtemp(dir=FOLDER)
     os.mkdir(f'{folder}/filter')
     programs = {name: CUPS_FILTERS + name for name in ('imagetopdf', 'pdftopdf', converter)}
-    programs['rastertokestotspl'] = FILTER
+    programs.update(rastertokestotspl=FILTER, picturetokestolabel=PICTURE)
     programs.update(others)
     for name, path in programs.items():
         if name not in but:
