@@ -32,12 +32,19 @@ def filters_of(job):
     return [os.path.basename(match[1]) for match in found if match]
 
 
-def expect_stopped(*jobs):
-    """Waits until jobs have ended, all of them with a failure of a filter."""
+def states_of(jobs):
+    """How jobs have ended, for all of which it waits."""
     done = subprocess.run([f'{HERE}/private_cups', 'wait', '--timeout', '120', *map(str, jobs)],
                           stdout=subprocess.PIPE, text=True)
-    states = dict(re.findall(r'-(\d+) (\w+)$', done.stdout, re.M))
-    assert states == {str(job): 'stopped' for job in jobs}, states
+    return {int(job): state for job, state in re.findall(r'-(\d+) (\w+)$', done.stdout, re.M)}
+
+
+def expect_way(jobs, filters, state):
+    """Of jobs by their names: the programs that the scheduler starts for each, and how it ends."""
+    states = states_of(jobs)
+    wrong = [f'{name}: {filters_of(job)}, {states.get(job)}' for job, name in jobs.items()
+             if (filters_of(job), states.get(job)) != (filters, state)]
+    assert not wrong, '\n'.join(wrong)
 
 
 def expect_top_left_quarter(page, top=9, height=1200):
@@ -71,11 +78,9 @@ def pictures_of_every_kind_come_out_of_a_queue():
 def pictures_that_cannot_be_printed_send_nothing():
     add_queue('labels')
     jobs = {send('labels', write(name, content)): name for name, content in picture_kinds.REFUSED.items()}
-    expect_stopped(*jobs)
-    wrong = [f'{name}: {filters_of(job)}' for job, name in jobs.items() if filters_of(job) != OWN]
-    refusals = {job: [line for line in log_lines(job) if line[0] == 'E'] for job in jobs}
-    wrong += [f'{jobs[job]}: {lines}' for job, lines in refusals.items() if not lines]
-    assert not wrong, '\n'.join(wrong)
+    expect_way(jobs, OWN, 'stopped')
+    refusals = {name: [line for line in log_lines(job) if line[0] == 'E'] for job, name in jobs.items()}
+    assert all(refusals.values()), refusals
     assert not any(arrived('a')), 'something was sent'
     return [line for lines in refusals.values() for line in lines]
 
@@ -83,10 +88,7 @@ def pictures_that_cannot_be_printed_send_nothing():
 def texts_are_still_texts():
     add_queue('labels')
     jobs = {send('labels', write(name, content)): name for name, content in picture_kinds.TEXTS.items()}
-    wait(*jobs, timeout=120)
-    wrong = [f'{name}: {filters_of(job)}' for job, name in jobs.items()
-             if filters_of(job) != ['texttopdf'] + OWN]
-    assert not wrong, '\n'.join(wrong)
+    expect_way(jobs, ['texttopdf'] + OWN, 'completed')
 
 
 def other_queues_get_pictures_in_text_as_text():
