@@ -54,6 +54,8 @@ def client(setup, *arguments):
               'if [ "$2" = everywhere ]; then lpadmin -p far -E -v "$uri" -m everywhere; '
               'else driverless "$uri" >"$PRIVATE_CUPS/far.ppd"; '
               'lpadmin -p far -E -v "$uri" -P "$PRIVATE_CUPS/far.ppd"; fi; '
+              # Otherwise a second goes by after each job before the next one is sent.
+              'lpadmin -p far -v "$uri?waitjob=false&waitprinter=false"; '
               'shift 2; exec python3 "$@"')
     done = subprocess.run(
         [f'{HERE}/private_cups', '--backend', 'ipp', folder, '--', 'bash', '-c', script, 'bash',
