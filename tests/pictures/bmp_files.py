@@ -1,0 +1,45 @@
+"""BMP pictures of rows of samples or of indices into a palette."""
+import struct
+
+from pixels import packed
+
+
+def file_of(width, height, bits, data, palette=(), compression=0, dots_per_metre=0, masks=b''):
+    """A height below zero stands for rows from the top."""
+    colours = b''.join(bytes((blue, green, red, 0)) for red, green, blue, *_ in palette)
+    start = 14 + 40 + len(masks) + len(colours)
+    return (struct.pack('<2sIHHI', b'BM', start + len(data), 0, 0, start) +
+            struct.pack('<IiiHHIIiiII', 40, width, height, 1, bits, compression, len(data),
+                        dots_per_metre, dots_per_metre, len(palette), 0) + masks + colours + data)
+
+
+def padded(line):
+    return line + bytes(-len(line) % 4)
+
+
+def indexed(indices, palette, bits, top_down=False):
+    lines = [padded(packed(row, bits)) for row in indices]
+    return file_of(len(indices[0]), -len(lines) if top_down else len(lines), bits,
+                   b''.join(lines if top_down else lines[::-1]), palette)
+
+
+def true_colour(rows, bits, top_down=False, dots_per_metre=0):
+    """Of pictures; 24 or 32 bits, of which the last 8 mean nothing."""
+    lines = [padded(b''.join(bytes((blue, green, red) + (0,) * (bits // 8 - 3))
+                             for red, green, blue, _ in row)) for row in rows]
+    return file_of(len(rows[0]), -len(lines) if top_down else len(lines), bits,
+                   b''.join(lines if top_down else lines[::-1]), dots_per_metre=dots_per_metre)
+
+
+def run_length(indices, palette):
+    """RLE8: runs, literal bytes (at least three, filled up to an even number), ends of lines."""
+    data = b''
+    for row in reversed(indices):
+        for x in range(0, len(row), 5):
+            part = row[x:x + 5]
+            if len(part) > 2 and x % 2:
+                data += b'\0' + bytes([len(part)]) + bytes(part) + bytes(len(part) % 2)
+            else:
+                data += b''.join(bytes((1, index)) for index in part)
+        data += b'\0\0'
+    return file_of(len(indices[0]), len(indices), 8, data + b'\0\1', palette, compression=1)
