@@ -52,7 +52,7 @@ def without_options_a_picture_is_fitted():
     table.append(('', square, LABEL, middle(enlarged(square, 2))))
     table.append(('', tall, LABEL, middle(tall)))
     table += [(option, rows, LABEL, expected) for _, rows, _, expected in table[:3]
-              for option in ('print-scaling=fit', 'fit-to-page', 'fitplot=true', 'fit-to-page=yes',
+              for option in ('print-scaling=fit', 'fit-to-page=true', 'fitplot=true', 'fit-to-page=yes',
                              'print-scaling=nonsense', 'position=nonsense', 'scaling=100')]
     check(table)
 
@@ -170,7 +170,7 @@ def positions_turn_with_the_picture():
     table = []
     for name, expected in positions_of(rows, (24, 16)):
         table.append((f'position={name}', rows, LABEL, counter_clockwise(expected)))
-    for turn, turned, dots in (('landscape', counter_clockwise, (24, 16)),
+    for turn, turned, dots in (('landscape=true', counter_clockwise, (24, 16)),
                                ('orientation-requested=4', counter_clockwise, (24, 16)),
                                ('orientation-requested=3', lambda levels: levels, (16, 24))):
         for name, expected in positions_of(small, dots):
@@ -181,7 +181,7 @@ def positions_turn_with_the_picture():
 def print_scaling_fill_covers_the_label():
     square, across, tall = picture(48, 48), picture(24, 8), picture(8, 24)
     check([('print-scaling=fill', square, LABEL, cropped(by_squares(square, 2), 4, 0, 16, 24)),
-           ('fill', square, LABEL, cropped(by_squares(square, 2), 4, 0, 16, 24)),
+           ('fill=true', square, LABEL, cropped(by_squares(square, 2), 4, 0, 16, 24)),
            ('print-scaling=fill', across, LABEL,
             cropped(enlarged(counter_clockwise(across), 2), 0, 12, 16, 24)),
            ('print-scaling=fill', tall, LABEL, cropped(enlarged(tall, 2), 0, 12, 16, 24)),
@@ -214,8 +214,8 @@ def print_scaling_wins_over_the_older_options():
     small = picture(8, 12)
     check([('print-scaling=fit scaling=50 ppi=50 natural-scaling=300 fit-to-page=false', small, LABEL,
             enlarged(small, 2)),
-           ('scaling=50 print-scaling=none fill', small, LABEL, middle(small)),
-           ('fitplot print-scaling=none', small, LABEL, middle(small))])
+           ('scaling=50 print-scaling=none fill=true', small, LABEL, middle(small)),
+           ('fitplot=true print-scaling=none', small, LABEL, middle(small))])
 
 
 def resolutions_give_the_natural_size():
@@ -302,7 +302,7 @@ def tiles_of_a_turned_picture_are_turned_each():
     upright = picture(16, 24)
     check_tiles('scaling=200 orientation-requested=6', upright,
                 list(map(upside_down, tiles_of(enlarged(upright, 2), 16, 24))))
-    check_tiles('scaling=200 mirror', upright,
+    check_tiles('scaling=200 mirror=true', upright,
                 list(map(mirrored, tiles_of(enlarged(upright, 2), 16, 24))))
 
 
@@ -320,13 +320,13 @@ def orientations_turn_as_they_are_told():
            ('orientation-requested=6', upright, LABEL, upside_down(upright)),
            ('orientation-requested=4', across, LABEL, counter_clockwise(across)),
            ('orientation-requested=5', across, LABEL, clockwise(across)),
-           ('landscape', across, LABEL, counter_clockwise(across)),
+           ('landscape=yes', across, LABEL, counter_clockwise(across)),
            ('landscape=true', across, LABEL, counter_clockwise(across)),
            ('orientation-requested=3', picture(32, 16), dots,
             middle(by_squares(picture(32, 16), 2), dots)),
            ('orientation-requested=4', long, dots, middle(by_squares(counter_clockwise(long), 2), dots)),
            ('orientation-requested=5', long, dots, middle(by_squares(clockwise(long), 2), dots)),
-           ('landscape', long, dots, middle(by_squares(counter_clockwise(long), 2), dots)),
+           ('landscape=on', long, dots, middle(by_squares(counter_clockwise(long), 2), dots)),
            ('orientation-requested=6', picture(32, 16), dots,
             middle(by_squares(upside_down(picture(32, 16)), 2), dots)),
            ('orientation-requested=4', upright, (24, 16), counter_clockwise(upright)),
@@ -337,11 +337,11 @@ def orientations_turn_as_they_are_told():
 
 def mirrored_labels_are_mirrored_behind_all_else():
     upright, across, small = picture(16, 24), picture(24, 16), picture(8, 12)
-    check([('mirror', upright, LABEL, mirrored(upright)),
+    check([('mirror=true', upright, LABEL, mirrored(upright)),
            ('mirror=true', across, LABEL, mirrored(counter_clockwise(across))),
-           ('mirror orientation-requested=5', across, LABEL, mirrored(clockwise(across))),
-           ('mirror orientation-requested=6', upright, LABEL, mirrored(upside_down(upright))),
-           ('mirror print-scaling=none position=top-left', small, LABEL, 
+           ('mirror=true orientation-requested=5', across, LABEL, mirrored(clockwise(across))),
+           ('mirror=true orientation-requested=6', upright, LABEL, mirrored(upside_down(upright))),
+           ('mirror=true print-scaling=none position=top-left', small, LABEL, 
             placed(mirrored(small), *LABEL, 8, 0)),
            ('mirror=false', upright, LABEL, upright)])
 
@@ -355,7 +355,7 @@ def turned_files_are_placed_as_they_are_seen():
         content = tiff.tiff(tiff.Page(stored, tags={274: (tiff.SHORT, [number])}, dpi=([100, 1], [200, 1])))
         turned = number > 4
         assert_equal(label(content, LABEL, 'orientation-requested=6'), upside_down(seen), number)
-        assert_equal(label(content, LABEL, 'mirror'), mirrored(seen), number)
+        assert_equal(label(content, LABEL, 'mirror=true'), mirrored(seen), number)
         natural = enlarged(seen, 1, 2) if turned else enlarged(seen, 2, 1)
         assert_equal(label(content, (32, 24) if not turned else (16, 48), 'print-scaling=none',
                            'orientation-requested=3'), natural, f'{number} at its resolution')
