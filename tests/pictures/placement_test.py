@@ -154,7 +154,7 @@ def positions_hold_for_all_that_is_smaller_or_larger():
            for options, rows, seen in (('print-scaling=none', small, small),
                                        ('print-scaling=none', large, large),
                                        ('print-scaling=auto', small, small),
-                                       ('crop-to-fit', large, large),
+                                       ('crop-to-fit=true', large, large),
                                        ('ppi=200', small, small),
                                        ('print-scaling=fit', square, enlarged(square, 2)),
                                        ('print-scaling=fill', square, enlarged(square, 3)),
@@ -172,6 +172,8 @@ def positions_turn_with_the_picture():
         table.append((f'position={name}', rows, LABEL, counter_clockwise(expected)))
     for turn, turned, dots in (('landscape=true', counter_clockwise, (24, 16)),
                                ('orientation-requested=4', counter_clockwise, (24, 16)),
+                               ('orientation-requested=5', clockwise, (24, 16)),
+                               ('orientation-requested=6', upside_down, (16, 24)),
                                ('orientation-requested=3', lambda levels: levels, (16, 24))):
         for name, expected in positions_of(small, dots):
             table.append((f'{turn} print-scaling=none position={name}', small, LABEL, turned(expected)))
@@ -269,9 +271,9 @@ def whole_labels_keep_their_dots_with_the_printers_resolution():
 
 
 def tiles_of(rows, width, height):
-    """From left to right, then down."""
-    return [cropped(rows, left, top, width, height) for top in range(0, len(rows), height)
-            for left in range(0, len(rows[0]), width)]
+    """In imagetopdf's order: from the top down, then to the right."""
+    return [cropped(rows, left, top, width, height) for left in range(0, len(rows[0]), width)
+            for top in range(0, len(rows), height)]
 
 
 def check_tiles(options, rows, expected, dots=LABEL):
