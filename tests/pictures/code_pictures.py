@@ -88,11 +88,18 @@ def burnt(page):
 
 
 def grown(rows):
-    """As a hot head prints it: every dot burns its right and its lower neighbour as well."""
-    width = len(rows[0])
+    """As a head prints it that is too hot: every dot burns its right and its lower neighbour."""
     numbers = [int(row, 2) for row in rows]
     wide = [number | number >> 1 for number in numbers]
-    return [f'{one | before:0{width}b}' for one, before in zip(wide, [0] + wide)]
+    return [f'{one | above:0{len(rows[0])}b}' for one, above in zip(wide, [0] + wide)]
+
+
+def grown_all_around(rows):
+    """Every dot burns its eight neighbours."""
+    width = len(rows[0])
+    wide = [(int(row, 2) | int(row, 2) >> 1 | int(row, 2) << 1) & (1 << width) - 1 for row in rows]
+    return [f'{one | above | below:0{width}b}'
+            for one, above, below in zip(wide, [0] + wide, wide[1:] + [0])]
 
 
 def read_from(path):
