@@ -86,10 +86,10 @@ bool isNothingToBeSeen(Image& image) {
     return true;
 }
 
-std::uint16_t spread(Quantum byte, unsigned highest) {
-    constexpr unsigned spreadOfByte = 257;
-    const unsigned value = std::min(byte / spreadOfByte, highest);
-    return static_cast<std::uint16_t>((value * mostLight + highest / 2) / highest);
+std::uint16_t spread(Quantum sample, const SampleRange& range) {
+    constexpr unsigned bitsOfByte = 8;
+    const unsigned value = std::min((unsigned{sample} >> bitsOfByte) >> range.shift, range.highest);
+    return static_cast<std::uint16_t>((value * mostLight + range.highest / 2) / range.highest);
 }
 
 }  // namespace
@@ -99,10 +99,7 @@ void DestroyImage::operator()(_Image* image) const {
 }
 
 DecodedPicture::DecodedPicture(LibraryImage image, const FileDetails& details)
-    : image_(std::move(image)), transparent_(details.transparent) {
-    if (details.narrow) {
-        highest_ = details.narrow->highest;
-    }
+    : image_(std::move(image)), ranges_(details.ranges), transparent_(details.transparent) {
     isTransparent_ = image_->matte != 0U && !isInks(*image_) && !details.hasNoAlpha &&
                      !(details.mayHaveNoAlpha && isNothingToBeSeen(*image_));
     Colour colour = colourOf(*image_);
@@ -131,7 +128,7 @@ std::span<const std::uint16_t> DecodedPicture::row(unsigned index) {
 }
 
 void DecodedPicture::copy(std::span<const _PixelPacket> pixels) {
-    if (highest_ > 0 || transparent_) {
+    if (ranges_ || transparent_) {
         return copySpecial(pixels);
     }
     if (isInks(*image_)) {
@@ -153,10 +150,10 @@ void DecodedPicture::copy(std::span<const _PixelPacket> pixels) {
 
 void DecodedPicture::copySpecial(std::span<const _PixelPacket> pixels) {
     copyWith(pixels, [this](PixelPacket pixel, std::uint16_t* sample) {
-        if (highest_ > 0) {
-            pixel.red = spread(pixel.red, highest_);
-            pixel.green = spread(pixel.green, highest_);
-            pixel.blue = spread(pixel.blue, highest_);
+        if (ranges_) {
+            pixel.red = spread(pixel.red, (*ranges_)[0]);
+            pixel.green = spread(pixel.green, (*ranges_)[1]);
+            pixel.blue = spread(pixel.blue, (*ranges_)[2]);
         }
         if (transparent_ && std::array{pixel.red, pixel.green, pixel.blue} == *transparent_) {
             pixel.red = pixel.green = pixel.blue = mostLight;

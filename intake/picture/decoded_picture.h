@@ -48,7 +48,7 @@ private:
 
     LibraryImage image_;
     bool isTransparent_ = false;
-    unsigned highest_ = 0;  // value of a sample; 0: the usual one
+    std::optional<std::array<SampleRange, 3>> ranges_;
     std::optional<std::array<std::uint16_t, 3>> transparent_;
     unsigned channels_ = 1;
     std::unique_ptr<ColourProfile> profile_;

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <string_view>
 #include <vector>
@@ -91,14 +92,40 @@ private:
     bool isColour_ = false;
 };
 
+// The samples of 16 bits have five bits each, or as many as their masks; the decoder leaves them at
+// the upper end of a byte.
+std::array<SampleRange, 3> rangesOf(const Bytes& head) {
+    constexpr std::size_t compression = 30;
+    constexpr std::size_t firstMask = 54;
+    constexpr std::uint32_t withMasks = 3;
+    const bool hasMasks = number(std::span(head).subspan(compression, 4), false) == withMasks;
+    std::array<SampleRange, 3> ranges{};
+    for (std::size_t channel = 0; channel < ranges.size(); ++channel) {
+        constexpr std::uint32_t fiveBits = 31;
+        const std::uint32_t mask =
+            hasMasks ? number(std::span(head).subspan(firstMask + 4 * channel, 4), false)
+                     : fiveBits;
+        const auto bits = static_cast<unsigned>(std::clamp(std::popcount(mask), 1, 8));
+        ranges.at(channel) = {8 - bits, (1U << bits) - 1};
+    }
+    return ranges;
+}
+
 FileDetails bmpDetails(const Descriptor& file) {
-    constexpr std::uint64_t sizeOfHeader = 14;
+    constexpr std::size_t sizeOfHeader = 14;
+    constexpr std::size_t bitsOfDot = 28;
+    constexpr std::size_t behindMasks = 66;
     // The first header that has a mask for transparency.
-    constexpr std::uint32_t withMask = 56;
-    const Bytes size = bytesAt(file, sizeOfHeader, 4);
+    constexpr std::uint32_t withAlpha = 56;
+    Bytes head = bytesAt(file, 0, behindMasks);
+    head.resize(behindMasks);
+    const std::uint32_t size = number(std::span(head).subspan(sizeOfHeader, 4), false);
     FileDetails details;
-    details.hasNoAlpha = size.size() == 4 && number(size, false) < withMask;
+    details.hasNoAlpha = size < withAlpha;
     details.mayHaveNoAlpha = true;
+    if (number(std::span(head).subspan(bitsOfDot, 2), false) == 16) {
+        details.ranges = rangesOf(head);
+    }
     return details;
 }
 
@@ -167,6 +194,7 @@ FileDetails pnmDetails(const Descriptor& file) {
     FileDetails details;
     if (samples.highest < 255) {
         details.narrow = samples;
+        details.ranges.emplace().fill({0, samples.highest});
     }
     return details;
 }

@@ -19,6 +19,12 @@ struct NarrowSamples {
     std::size_t begin = 0;  ///< of the samples in the file
 };
 
+/// How a channel's samples come from the decoder: the highest of them is not all light.
+struct SampleRange {
+    unsigned shift = 0;      ///< of the value in its byte
+    unsigned highest = 255;  ///< value
+};
+
 /// What GraphicsMagick does not say of a file, or gets wrong.
 struct FileDetails {
     /// Of PNG's eXIf.
@@ -31,6 +37,8 @@ struct FileDetails {
     bool mayHaveNoAlpha = false;
     /// PNM of a maximum under 255.
     std::optional<NarrowSamples> narrow;
+    /// Of these, and of BMP of 16 bits: red, green and blue.
+    std::optional<std::array<SampleRange, 3>> ranges;
 };
 
 /// Reads them from the file. What is damaged is left out, for the decoder to say so; where it would

@@ -145,7 +145,10 @@ LibraryImage PictureFile::read(std::size_t index, unsigned reduction) const {
 LibraryImage PictureFile::readWith(std::size_t index, unsigned reduction,
                                    LibraryProblem& problem) const {
     const Info info = infoOf(document_.decoder, path_);
-    selectPictures(*info, index, 1);
+    // The decoder of Photo CD takes that for the number of the resolution.
+    if (document_.decoder != "PCD") {
+        selectPictures(*info, index, 1);
+    }
     if (reduction > 1) {
         const PictureOutline& outline = pictures_.at(index);
         setSize(*info, outline.width / reduction, outline.height / reduction);

@@ -12,7 +12,7 @@ import intake_run
 from intake_run import FOLDER, PREVIEWER, Run, script, server_bin, sizes
 import test_documents
 
-PHASES = ('imagetopdf', 'pdftopdf', 'gstoraster')
+PHASES = ('picturetokestolabel', 'pdftopdf', 'gstoraster')
 
 
 def wait_for(what, seconds=20):
@@ -44,7 +44,9 @@ def hanging(text=''):
 
 def in_phase(name, text='', **more):
     program, reached = hanging(text)
-    job = Run(test_documents.png(300, 400), bin_folder=server_bin(**{name: program}), **more)
+    document = (test_documents.png(300, 400) if name == 'picturetokestolabel'
+                else test_documents.PDF)
+    job = Run(document, bin_folder=server_bin(**{name: program}), **more)
     wait_for(lambda: os.path.exists(reached))
     return job
 

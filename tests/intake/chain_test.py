@@ -18,7 +18,7 @@ exec {program} "$@"
 
 def recording(converter='gstoraster'):
     """A folder of programs that write down how they are called."""
-    programs = {name: intake_run.CUPS_FILTERS + name for name in ('imagetopdf', 'pdftopdf', converter)}
+    programs = {name: intake_run.CUPS_FILTERS + name for name in ('pdftopdf', converter)}
     programs.update(rastertokestotspl=intake_run.FILTER, picturetokestolabel=intake_run.PICTURE)
     return server_bin(converter, **{
         name: script(RECORD.format(folder=FOLDER, program=path)) for name, path in programs.items()})
@@ -55,10 +55,9 @@ def every_page_is_a_label():
 
 def programs_are_told_what_they_need():
     folder = recording()
-    printed(test_documents.png(300, 400), 'media=A4 page-ranges=1 mirror HalftoneType=Ordered',
-            copies=4, bin_folder=folder)
-    types = {'imagetopdf': 'image/png', 'pdftopdf': 'application/pdf',
-             'gstoraster': 'application/vnd.cups-pdf',
+    printed(test_documents.PDF, 'media=A4 page-ranges=1 mirror HalftoneType=Ordered', copies=4,
+            bin_folder=folder)
+    types = {'pdftopdf': 'application/pdf', 'gstoraster': 'application/vnd.cups-pdf',
              'rastertokestotspl': 'application/vnd.cups-raster'}
     for name, content_type in types.items():
         arguments, environment = called(name)
@@ -72,10 +71,40 @@ def programs_are_told_what_they_need():
         options = options_of(name)
         assert options['PageSize'] == '4x6in' and 'media' not in options, options
         assert options['HalftoneType'] == 'Ordered', options
-    assert options_of('imagetopdf')['mirror'] == 'true'
-    for name in 'pdftopdf', 'gstoraster', 'rastertokestotspl':
+    assert options_of('pdftopdf')['mirror'] == 'true'
+    for name in 'gstoraster', 'rastertokestotspl':
         assert 'mirror' not in options_of(name), name
     assert options_of('pdftopdf')['page-ranges'] == '1'
+
+
+def pictures_need_two_programs():
+    folder = recording()
+    picture = test_documents.png(300, 400)
+    printed(picture, 'media=60x40mm page-ranges=1 mirror HalftoneType=Ordered', copies=4,
+            bin_folder=folder)
+    arguments, environment = called('picturetokestolabel')
+    assert arguments == ['--dots', '480x320', '--dpi', '203', '--size-name', '60x40mm', '--copies', '4',
+                         '-o', 'mirror=true', '-o', 'page-ranges=1', picture], arguments
+    _, filter_environment = called('rastertokestotspl')
+    assert environment['TMPDIR'] == environment['MAGICK_TMPDIR'] == filter_environment['TMPDIR']
+    options = options_of('rastertokestotspl')
+    assert options['PageSize'] == '60x40mm' and options['HalftoneType'] == 'Ordered', options
+    assert 'mirror' not in options and 'page-ranges' not in options, options
+    assert not os.path.exists(f'{FOLDER}/pdftopdf.args') or \
+        called('pdftopdf')[1]['KESTO_TEST_RUN'] != environment['KESTO_TEST_RUN']
+
+
+def pictures_are_laid_out_further_as_documents():
+    folder = recording()
+    done = printed(test_documents.png(300, 400), 'mirror number-up=2 page-ranges=1', copies=3,
+                   bin_folder=folder)
+    assert sizes(done.stream) == [(808, 1218, 3)], sizes(done.stream)
+    arguments, _ = called('picturetokestolabel')
+    assert arguments[:-1] == ['--dots', '808x1218', '--dpi', '203', '--size-name', '4x6in', '--pdf',
+                              '-o', 'mirror=true'], arguments
+    options = options_of('pdftopdf')
+    assert options['number-up'] == '2' and options['page-ranges'] == '1', options
+    assert 'mirror' not in options, options
 
 
 def an_unbalanced_quote_swallows_no_option():
@@ -106,7 +135,7 @@ def the_name_of_the_size_reaches_the_filter():
 
 
 def a_missing_program_is_named():
-    for name, document in (('imagetopdf', test_documents.png(300, 400)),
+    for name, document in (('picturetokestolabel', test_documents.png(300, 400)),
                            ('pdftopdf', test_documents.PDF), ('gstoraster', test_documents.PDF),
                            ('rastertokestotspl', test_documents.PDF)):
         done = refused(f'filter {name} ', document, bin_folder=server_bin(but=(name,)))
@@ -117,9 +146,10 @@ def the_first_program_that_fails_is_named():
     ends = script('#!/bin/sh\nexit 3\n')
     crashes = script('#!/bin/sh\nkill -SEGV $$\n')
     picture = test_documents.png(300, 400)
-    for name in 'imagetopdf', 'pdftopdf', 'gstoraster':
-        refused(f'^{name} failed with status 3', picture, bin_folder=server_bin(**{name: ends}))
-        refused(f'^{name} was ended by signal 11', picture,
+    for name, document in (('picturetokestolabel', picture), ('pdftopdf', test_documents.PDF),
+                           ('gstoraster', test_documents.PDF)):
+        refused(f'^{name} failed with status 3', document, bin_folder=server_bin(**{name: ends}))
+        refused(f'^{name} was ended by signal 11', document,
                 bin_folder=server_bin(**{name: crashes}))
     refused('^rastertokestotspl failed with status 3$', picture,
             bin_folder=server_bin(rastertokestotspl=ends))

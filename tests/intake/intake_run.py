@@ -44,7 +44,7 @@ def server_bin(converter='gstoraster', but=(), **others):
     """A folder of programs with one of the converters, without some, with others in their place."""
     folder = tempfile.mkdtemp(dir=FOLDER)
     os.mkdir(f'{folder}/filter')
-    programs = {name: CUPS_FILTERS + name for name in ('imagetopdf', 'pdftopdf', converter)}
+    programs = {name: CUPS_FILTERS + name for name in ('pdftopdf', converter)}
     programs.update(rastertokestotspl=FILTER, picturetokestolabel=PICTURE)
     programs.update(others)
     for name, path in programs.items():

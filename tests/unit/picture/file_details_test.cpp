@@ -102,5 +102,27 @@ TEST(FileDetails, OfBmpKnowThatOlderHeadersHaveNoTransparency) {
     EXPECT_FALSE(detailsOf("BM" + head.substr(2) + std::string("\x6c\0\0\0"sv)).hasNoAlpha);
 }
 
+TEST(FileDetails, OfBmpKnowTheBitsOfSamplesThatShareSixteen) {
+    std::string head = "BM" + std::string(64, '\0');
+    head[14] = 40;
+    head[28] = 24;
+    EXPECT_FALSE(detailsOf(head).ranges.has_value());
+    head[28] = 16;
+    const auto five = detailsOf(head).ranges;
+    ASSERT_TRUE(five.has_value());
+    for (const SampleRange& range : *five) {
+        EXPECT_EQ(range.highest, 31U);
+        EXPECT_EQ(range.shift, 3U);
+    }
+    head[30] = 3;
+    head.replace(54, 12, std::string("\0\xf8\0\0\xe0\7\0\0\x1f\0\0\0"sv));
+    const auto masked = detailsOf(head).ranges;
+    ASSERT_TRUE(masked.has_value());
+    EXPECT_EQ((*masked)[0].highest, 31U);
+    EXPECT_EQ((*masked)[1].highest, 63U);
+    EXPECT_EQ((*masked)[1].shift, 2U);
+    EXPECT_EQ((*masked)[2].highest, 31U);
+}
+
 }  // namespace
 }  // namespace intake::picture
