@@ -43,14 +43,28 @@ function(kesto_test_program name)
     kesto_test_sources(${name})
 endfunction()
 
+# Tests that start the filter or print a page write to folders that all processes share, under names
+# that change by the second only. Where mount namespaces are to be had, as root, each runs with folders
+# of its own; elsewhere they run one at a time. COMMAND ${KESTO_OWN_FOLDERS} ... PROPERTIES
+# ${KESTO_SPOOL_LOCK} does it for a test, SPOOL below for a whole program.
+execute_process(COMMAND unshare --mount true RESULT_VARIABLE no_namespaces ERROR_QUIET)
+if(no_namespaces)
+    message(STATUS "No mount namespaces: tests that print run one at a time")
+    set(KESTO_OWN_FOLDERS "")
+    set(KESTO_SPOOL_LOCK RESOURCE_LOCK spool)
+else()
+    set(KESTO_OWN_FOLDERS ${PROJECT_SOURCE_DIR}/tests/support/own_folders ${PROJECT_SOURCE_DIR})
+    set(KESTO_SPOOL_LOCK "")
+endif()
+
 # kesto_discover_tests(NAME LABEL LABEL [SPOOL] [OPTION...]): makes a test of CTest of every test in
-# a program. SPOOL is for tests that start the filter or print a page: they write to folders that
-# all processes share, under names that change by the second only, and run one at a time. What else
-# is given goes to gtest_discover_tests.
+# a program. What else is given goes to gtest_discover_tests.
 function(kesto_discover_tests name)
     cmake_parse_arguments(PARSE_ARGV 1 tests "SPOOL" "LABEL" "PROPERTIES")
     if(tests_SPOOL)
-        list(APPEND tests_PROPERTIES RESOURCE_LOCK spool)
+        list(APPEND tests_PROPERTIES ${KESTO_SPOOL_LOCK})
+        # What this version of CMake puts in front of a program that is a test.
+        set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR "${KESTO_OWN_FOLDERS}")
     endif()
     gtest_discover_tests(${name} ${tests_UNPARSED_ARGUMENTS} DISCOVERY_TIMEOUT 60
         PROPERTIES LABELS ${tests_LABEL} TIMEOUT 300 ${tests_PROPERTIES})
