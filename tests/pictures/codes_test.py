@@ -10,8 +10,8 @@ from picture_run import FOLDER, Faults, write
 
 # How many of the seven were read on labels of 203 dots per inch whose dots had grown, when pictures
 # were printed by imagetopdf, pdftopdf and gstoraster (cups-filters 1.28.17, Ghostscript 10.0), by the
-# resolution of the picture: with dots that grow to the right and downward, and to all four sides.
-READ_BEFORE = {150: (6, 5), 203: (5, 6), 300: (6, 5), 600: (6, 5)}
+# resolution of the picture: with dots that grow to the right and downward, and to all sides.
+READ_BEFORE = {150: (6, 1), 203: (5, 2), 300: (6, 1), 600: (6, 2)}
 WIDTHS = {'kstl203': 808, 'kstl300': 1200}
 
 
