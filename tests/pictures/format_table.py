@@ -104,6 +104,12 @@ def bmp_table():
             yield f'BMP {bits}{how}', bmp.true_colour(COLOURS, bits, top_down), COLOURS
     rows, indices = INDEXED[8]
     yield 'BMP of run lengths', bmp.run_length(indices, PALETTES[8]), rows
+    yield 'BMP of OS/2', bmp.of_os2(indices, PALETTES[8], 8), rows
+    corners = [(red, green, blue, 255) for red in (0, 255) for green in (0, 255) for blue in (0, 255)]
+    rows, _ = from_palette(WIDTH, HEIGHT, corners)
+    for green_bits in (5, 6):
+        yield f'BMP of 16 bits, {green_bits} of green', bmp.of_16_bits(rows, green_bits), rows
+    yield 'BMP with alpha', bmp.with_alpha(CLEAR_COLOURS), CLEAR_COLOURS
 
 
 def tiff_grey_table(big):
@@ -144,6 +150,8 @@ def tiff_compression_table():
     plain = tiff.tiff(tiff.Page(bits_of(BITS), bits=1))
     for compression in ('g3', 'g3:2d', 'g4'):
         yield f'TIFF {compression}', tool_files.tiff_by(compression, plain), BITS
+    yield 'TIFF of turned bytes', tool_files.by(['tiffcp', '-f', 'lsb2msb', '{0}', '{1}'], plain, 'tif',
+                                                'tif'), BITS
     colour = tiff.tiff(tiff.Page(samples(COLOURS, 'rgb'), tiff.RGB, count=3))
     for compression in ('lzw', 'lzw:2', 'zip:2'):
         yield f'TIFF {compression}', tool_files.tiff_by(compression, colour), COLOURS
@@ -277,6 +285,8 @@ def lossy_table():
     yield 'JPEG progressive', tool_files.jpeg(rows, '-progressive', '-quality', '95'), rows, 4
     yield 'JPEG grey progressive', tool_files.jpeg(rows, '-grayscale', '-progressive'), rows, 4
     yield 'JPEG of arithmetic code', tool_files.jpeg(rows, '-arithmetic', '-quality', '95'), rows, 4
+    grey = tiff.tiff(tiff.Page(samples(rows, 'r'), strip=16))
+    yield 'TIFF of JPEG', tool_files.tiff_by('jpeg:95', grey), rows, 4
     luminance = pixels.blocks(24, 40)
     planes = jpeg.of_blocks(luminance, 'r') + [[[120, 140, 128]] * 5, [[130, 128, 118]] * 5]
     yield 'JPEG of luminance and colour', jpeg.jpeg(planes, 24, 40, jpeg.jfif()), luminance, 2

@@ -90,6 +90,16 @@ def lossy_formats_print_nearly_as_plain_png():
                              tolerance)
 
 
+def alpha_that_is_in_the_colours_already_is_known():
+    """Where TIFF calls it associated, colours are what they add to the paper's share."""
+    rows = [[(*(level * pixel[3] // 255 for level in pixel[:3]), pixel[3]) for pixel in row]
+            for row in format_table.CLEAR_COLOURS]
+    content = tiff.tiff(tiff.Page(samples(rows, 'rgba'), tiff.RGB, count=4,
+                                  tags={338: (tiff.SHORT, [1])}))
+    seen = [[(*(level + 255 - pixel[3] for level in pixel[:3]), 255) for pixel in row] for row in rows]
+    assert_equal(label(content, (14, 22)), pixels.over_white(seen), 'levels', 2)
+
+
 def maxima_that_8_bits_do_not_have_are_scaled():
     content, levels = format_table.odd_maximum()
     assert_equal(label(content, (14, 22)), levels, 'levels', 1)

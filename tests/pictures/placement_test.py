@@ -11,7 +11,7 @@ import pnm_files as pnm
 import tiff_files as tiff
 from area_average import (clockwise, counter_clockwise, cropped, mirrored, placed, scaled,
                           upside_down)
-from picture_run import Faults, assert_equal, label, labels
+from picture_run import Faults, Run, assert_equal, command, label, labels
 
 LABEL = (16, 24)
 # A mean is rounded to the nearest whole level.
@@ -257,9 +257,22 @@ def every_format_may_say_its_resolution():
                     assert_equal(label(content, dots, option, dpi=dpi), expected, 'dots')
     other = png.png(rows, chunks=[png.resolution(50)])
     assert_equal(label(other, LABEL, 'ppi=100'), enlarged(rows, 2), 'the option counts')
-    flat = png.png(picture(8, 6), chunks=[png.resolution(100, 50)])
-    for option in 'print-scaling=none', 'print-scaling=fit', '':
-        assert_equal(label(flat, LABEL, *option.split()), enlarged(picture(8, 6), 2, 4), 'not square')
+
+
+def samples_that_are_not_square_are_no_squares_on_the_label():
+    rows = picture(8, 6)
+    flat = png.png(rows, chunks=[png.resolution(100, 50)])
+    for options in 'print-scaling=none', 'print-scaling=fit', '', 'natural-scaling=100':
+        assert_equal(label(flat, LABEL, *options.split()), enlarged(rows, 2, 4), options)
+    # Twice as wide as tall in samples, but a square.
+    square = png.png(picture(16, 8), chunks=[png.resolution(200, 100)])
+    assert_equal(label(square, LABEL), middle(enlarged(picture(16, 8), 1, 2)), 'a square')
+
+
+def lines_of_one_sample_do_not_vanish():
+    for rows in [[0] * 4000], [[0]] * 4000:
+        dots = label(png.png(rows), LABEL)
+        assert any(level == 0 for row in dots for level in row), len(rows)
 
 
 def whole_labels_keep_their_dots_with_the_printers_resolution():
@@ -383,6 +396,38 @@ def labels_are_chosen_by_their_numbers():
         assert [pages.index(one.rows) + 1 for one in found] == list(expected), (options, len(found))
 
 
+def nothing_chosen_is_told_of():
+    content = tiff.tiff(tiff.Page(picture(16, 24)))
+    for option in 'page-ranges=2', 'page-ranges=7-9', 'page-set=even':
+        done = Run(command(content, LABEL, option))
+        assert done.status == 1 and done.raster == b'', (option, done.status, len(done.raster))
+        assert [line[:7] for line in done.lines] == ['ERROR: '], done.lines
+
+
+def far_too_many_labels_are_taken_for_a_mistake():
+    done = Run(command(png.png(picture(16, 24)), LABEL, 'ppi=1'))
+    assert done.status == 1 and done.raster == b'', (done.status, len(done.raster))
+    assert len(done.lines) == 1 and 'labels' in done.lines[0], done.lines
+
+
+def collated_copies_are_sets():
+    pages = [picture(16, 24, seed) for seed in (1, 2)]
+    content = tiff.tiff(*map(tiff.Page, pages))
+    found = labels(content, LABEL, 'Collate=true', more=['--copies', '3'])
+    assert [one.rows for one in found] == pages * 3, len(found)
+    assert {one.copies for one in found} == {1}
+    found = labels(content, LABEL, 'Collate=false', more=['--copies', '3'])
+    assert [(one.rows, one.copies) for one in found] == [(page, 3) for page in pages], len(found)
+
+
+def options_of_others_are_left_alone():
+    rows = picture(16, 24)
+    check([(options, rows, LABEL, rows) for options in
+           ('HalftoneType=None Darkness=8', 'landscape=false', 'media=4x6in', 'ppi=nonsense',
+            'scaling=nonsense', 'orientation-requested=9', 'ppi=-5', 'scaling=0', 'natural-scaling=nan',
+            'print-scaling=', 'page-ranges=', 'position=', 'fill=false', 'crop-to-fit=false')])
+
+
 def tiles_are_chosen_by_their_numbers_too():
     rows = picture(16, 24)
     parts = tiles_of(enlarged(rows, 2), 16, 24)
@@ -401,3 +446,12 @@ def a_jpeg_that_its_decoder_may_reduce_is_averaged_all_the_same():
     assert_equal(label(content, (250, 375)), scaled(rows, 250, 375), 'between a sixth and a seventh', 1)
     natural = label(content, (40, 60), 'print-scaling=none', dpi=75)
     assert_equal(natural, cropped(rows, 80, 120, 40, 60), 'natural size')
+
+
+def a_jpeg_that_is_turned_and_reduced_is_both():
+    rows = pixels.samples(pixels.grey(48, 72, range(20, 240)), 'r')
+    colours = [[(level,) for level in row] for row in rows]
+    for number in pixels.ORIENTATIONS:
+        stored = [[pixel[0] for pixel in row] for row in pixels.stored(colours, number)]
+        content = jpeg.jpeg([stored], 8 * len(stored[0]), 8 * len(stored), jpeg.exif(number))
+        assert_equal(label(content, (24, 36)), by_squares(rows, 2), number, 1)
