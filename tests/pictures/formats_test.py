@@ -2,6 +2,7 @@
 import format_table
 import icc_profiles
 import jpeg_files as jpeg
+import other_files
 import pixels
 import png_files as png
 import pnm_files
@@ -172,6 +173,15 @@ def nonsense_for_a_profile_is_left_out():
     for chunk in png.profile(b'nonsense' * 30), (b'iCCP', b'a\0\0nonsense'):
         content = png.png(samples(rows, 'rgb'), png.RGB, chunks=[chunk])
         assert_equal(label(content, (24, 40)), samples(rows, 'r'), 'levels')
+
+
+def photo_cd_prints_its_picture_and_no_thumbnail():
+    content = other_files.photo_cd((180, 40), thumbnails=(40, 180))
+    for dots in (24, 16), (768, 512):
+        rows = label(content, dots)
+        left = {level for row in rows for level in row[:dots[0] // 2 - 2]}
+        right = {level for row in rows for level in row[dots[0] // 2 + 2:]}
+        assert min(left) > 200 and max(right) < 80, (dots, left, right)
 
 
 def a_picture_of_one_dot_fills_a_square_of_the_label():

@@ -79,3 +79,18 @@ def xwd(rows):
     head = struct.pack('>25I', 100 + len(name), 7, 2, 24, width, height, 0, 1, 32, 1, 32, 32,
                        4 * width, 4, 0xff0000, 0xff00, 0xff, 8, 256, 0, width, height, 0, 0, 0)
     return head + name + b''.join(bytes((0, *pixel[:3])) for row in rows for pixel in row)
+
+
+def photo_cd(picture, thumbnails):
+    """A picture of 768 x 512 and its smaller ones: each (level at the left, level at the right),
+    luminance in pairs of lines and the colours of grey behind each pair."""
+    def plane(width, height, left, right):
+        half = width // 2
+        pair = (bytes([left]) * half + bytes([right]) * half) * 2
+        return (pair + bytes([156]) * half + bytes([137]) * half) * (height // 2)
+    out = bytearray(0x30000)
+    out[0x800:0x807] = b'PCD_IPI'
+    for start, width, height in ((0x2000, 192, 128), (0xb800, 384, 256)):
+        small = plane(width, height, *thumbnails)
+        out[start:start + len(small)] = small
+    return bytes(out) + plane(768, 512, *picture)
