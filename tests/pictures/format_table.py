@@ -1,6 +1,4 @@
 """The table of formats: small pictures whose levels every one of these files must come to."""
-import struct
-
 import bmp_files as bmp
 import jpeg_files as jpeg
 import other_files
@@ -9,7 +7,7 @@ import pixels
 import pnm_files as pnm
 import tiff_files as tiff
 import tool_files
-from pixels import at_depth, colours, from_palette, grey, levels_at, packed, samples
+from pixels import at_depth, colours, from_palette, grey, levels_at, samples
 
 WIDTH, HEIGHT = 14, 22
 GREY = grey(WIDTH, HEIGHT)

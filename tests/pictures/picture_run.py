@@ -2,14 +2,12 @@
 import atexit
 import itertools
 import os
-import re
 import shutil
 import signal
 import struct
 import subprocess
 import sys
 import tempfile
-import time
 
 sys.dont_write_bytecode = True
 PICTURE, INTAKE, FILTER, PREVIEWER, PPD_FOLDER = map(os.path.abspath, sys.argv[1:6])
