@@ -23,9 +23,9 @@ def indexed(indices, palette, bits, top_down=False):
                    b''.join(lines if top_down else lines[::-1]), palette)
 
 
-def true_colour(rows, bits, top_down=False, dots_per_metre=0):
+def true_colour(rows, bits, top_down=False, dots_per_metre=0, rest=0):
     """Of pictures; 24 or 32 bits, of which the last 8 mean nothing."""
-    lines = [padded(b''.join(bytes((blue, green, red) + (0,) * (bits // 8 - 3))
+    lines = [padded(b''.join(bytes((blue, green, red) + (rest,) * (bits // 8 - 3))
                              for red, green, blue, _ in row)) for row in rows]
     return file_of(len(rows[0]), -len(lines) if top_down else len(lines), bits,
                    b''.join(lines if top_down else lines[::-1]), dots_per_metre=dots_per_metre)

@@ -1,4 +1,6 @@
 """The table of formats: small pictures whose levels every one of these files must come to."""
+import struct
+
 import bmp_files as bmp
 import jpeg_files as jpeg
 import other_files
@@ -66,6 +68,16 @@ def png_chunk_table():
         (b'tRNS', bytes((0, red, 0, green, 0, blue)))]),
         [[(*pixel[:3], 0 if pixel[:3] == (red, green, blue) else 255) for pixel in row]
          for row in COLOURS])
+    deep = at_depth(samples(COLOURS, 'rgb'), 16)
+    deep[0][:3] = [257 * red, 257 * green, 257 * blue]
+    deep[0][3:6] = [257 * red, 257 * green, 257 * blue + 1]
+    yield ('PNG RGB of 16 bits with tRNS', png.png(deep, png.RGB, 16, chunks=[
+        (b'tRNS', struct.pack('>HHH', *deep[0][:3]))]),
+        [[(255, 255, 255, 255), (red, green, blue, 255), *(
+            (255, 255, 255, 255) if pixel[:3] == (red, green, blue) else pixel
+            for pixel in COLOURS[0][2:])],
+         *[[(*pixel[:3], 0 if pixel[:3] == (red, green, blue) else 255) for pixel in row]
+           for row in COLOURS[1:]]])
     for name, chunk in (('that names a black background', (b'bKGD', bytes(6))),
                         ('with a resolution', png.resolution(72)),
                         ('that says that it is sRGB', (b'sRGB', b'\0'))):
@@ -84,6 +96,12 @@ def pnm_table():
             rows = grey(WIDTH, HEIGHT, levels) if channels == 'r' or maximum != 255 else COLOURS
             numbers = [[sample * maximum // 255 for sample in row] for row in samples(rows, channels)]
             yield f'P{kind} of maximum {maximum}', pnm.pnm(kind, numbers, maximum), rows
+    for maximum in (1, 15, 255):
+        rows = grey(WIDTH, HEIGHT, range(0, 256, 255 // maximum))
+        numbers = [[sample * maximum // 255 for sample in row] for row in samples(rows, 'r')]
+        plain = pnm.pnm(5, numbers, maximum).split(b'\n', 3)
+        yield (f'P5 of maximum {maximum} with remarks', b'P5# one\n14 # two\n\t22 #three\n#\n%d\n'
+               % maximum + plain[3], rows)
     for name, rows, channels in (('GRAYSCALE', GREY, 'r'), ('RGB', COLOURS, 'rgb'),
                                  ('GRAYSCALE_ALPHA', CLEAR_GREY, 'ra'),
                                  ('RGB_ALPHA', CLEAR_COLOURS, 'rgba')):
@@ -107,6 +125,7 @@ def bmp_table():
     rows, _ = from_palette(WIDTH, HEIGHT, corners)
     for green_bits in (5, 6):
         yield f'BMP of 16 bits, {green_bits} of green', bmp.of_16_bits(rows, green_bits), rows
+    yield 'BMP 32 of fourths that mean nothing', bmp.true_colour(COLOURS, 32, rest=77), COLOURS
     yield 'BMP with alpha', bmp.with_alpha(CLEAR_COLOURS), CLEAR_COLOURS
 
 
@@ -215,11 +234,17 @@ def orientation_table():
             samples(stored, 'rgb'), tiff.RGB, count=3, tags={274: (tiff.SHORT, [number])})), COLOURS)
         yield (f'PNG stored {number}', png.png(samples(stored, 'rgb'), png.RGB, chunks=[
             (b'eXIf', jpeg.exif_data(number, number % 2))]), COLOURS)
+        end = len(content := png.png(samples(stored, 'rgb'), png.RGB)) - 12
+        yield (f'PNG stored {number}, as is said behind the data', content[:end] + png.chunk(
+            b'eXIf', jpeg.exif_data(number, before=3)) + content[end:], COLOURS)
         yield (f'WebP stored {number}', tool_files.webp_with_exif(
             tool_files.webp(stored), *size, jpeg.exif_data(number)), COLOURS)
         stored = pixels.stored(blocks, number)
         planes, size = jpeg.of_blocks(stored, 'r'), (len(stored[0]), len(stored))
-        for front in (jpeg.exif(number), jpeg.jfif() + jpeg.exif(number, False)):
+        other = jpeg.segment(0xe1, b'http://ns.adobe.com/xap/1.0/\0<x:xmpmeta/>')
+        for front in (jpeg.exif(number), jpeg.jfif() + jpeg.exif(number, False),
+                      other + jpeg.exif(number), jpeg.segment(0xfe, b'a remark') + other + jpeg.segment(
+                          0xe1, b'Exif\0\0' + jpeg.exif_data(number, False, before=5))):
             yield f'JPEG stored {number}', jpeg.jpeg(planes, *size, front), blocks
     stored = pixels.stored(blocks, 6)
     turned = jpeg.jpeg(jpeg.of_blocks(stored, 'r'), 40, 24, jpeg.jfif() + jpeg.exif(6))

@@ -73,7 +73,7 @@ def lossless_formats_print_as_plain_png():
 
 
 def orientations_print_as_plain_png():
-    assert all_print_as_plain_png(format_table.orientation_table()) == 41
+    assert all_print_as_plain_png(format_table.orientation_table()) == 65
 
 
 def inks_print_as_the_colours_that_they_are():

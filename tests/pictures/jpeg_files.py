@@ -16,10 +16,15 @@ def jfif(dpi=(0, 0)):
                                                       dpi[0] or 1, dpi[1] or 1, 0, 0))
 
 
-def exif_data(orientation, big=True):
+def exif_data(orientation, big=True, before=0):
+    """A directory of the orientation, with other entries before and one behind it."""
     order = '>' if big else '<'
-    return ((b'MM\0*' if big else b'II*\0') +
-            struct.pack(order + 'IHHHIHHI', 8, 1, 274, 3, 1, orientation, 0, 0))
+    entries = [(256 + number, 4, 1, 77) for number in range(before)]
+    body = b''.join(struct.pack(order + 'HHII', *entry) for entry in entries)
+    body += struct.pack(order + 'HHIHH', 274, 3, 1, orientation, 0)
+    body += struct.pack(order + 'HHII', 296, 3, 1, 2)
+    return ((b'MM\0*' if big else b'II*\0') + struct.pack(order + 'IH', 8, before + 2) + body +
+            bytes(4))
 
 
 def exif(orientation, big=True):
