@@ -47,9 +47,10 @@ endfunction()
 # that change by the second only. Where mount namespaces are to be had, as root, each runs with folders
 # of its own; elsewhere they run one at a time. COMMAND ${KESTO_OWN_FOLDERS} ... PROPERTIES
 # ${KESTO_SPOOL_LOCK} does it for a test, SPOOL below for a whole program.
-execute_process(COMMAND unshare --mount true RESULT_VARIABLE no_namespaces ERROR_QUIET)
-if(no_namespaces)
-    message(STATUS "No mount namespaces: tests that print run one at a time")
+execute_process(COMMAND ${PROJECT_SOURCE_DIR}/tests/support/own_folders ${PROJECT_SOURCE_DIR} true
+    RESULT_VARIABLE no_own_folders OUTPUT_QUIET ERROR_QUIET)
+if(no_own_folders)
+    message(STATUS "No folders of their own: tests that print run one at a time")
     set(KESTO_OWN_FOLDERS "")
     set(KESTO_SPOOL_LOCK RESOURCE_LOCK spool)
 else()
