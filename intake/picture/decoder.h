@@ -2,8 +2,24 @@
 
 namespace intake::picture {
 
+/// Dots of one picture as its decoder makes them.
+inline constexpr long mostSamples = 100'000'000;
+
 /// Prepares the library that decodes pictures, once per process and before anything else of it, and
 /// bounds what it may take, as SECURITY.md says.
-void startDecoder();
+void startDecoder(long samples = mostSamples);
+
+/// While one of these lives a picture may have four times as many dots: its decoder is going to
+/// make it smaller.
+class RoomForReduction {
+public:
+    RoomForReduction();
+    ~RoomForReduction();
+    RoomForReduction(const RoomForReduction&) = delete;
+    RoomForReduction& operator=(const RoomForReduction&) = delete;
+
+private:
+    long samples_;
+};
 
 }  // namespace intake::picture

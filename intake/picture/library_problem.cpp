@@ -18,6 +18,10 @@ std::string LibraryProblem::text(std::string_view path) const {
     if (info_.reason == nullptr || *info_.reason == '\0') {
         return "the decoder does not say why";
     }
+    // What libjpeg says when its memory is used up.
+    if (says("Backing store")) {
+        return "it takes more memory than a picture may have";
+    }
     std::string text = GetLocaleExceptionMessage(info_.severity, info_.reason);
     if (const std::string name = std::string(path) + ": "; text.starts_with(name)) {
         text.erase(0, name.size());

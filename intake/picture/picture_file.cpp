@@ -5,10 +5,12 @@
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "intake/document_file.h"
 #include "intake/job_failure.h"
+#include "intake/picture/decoder.h"
 #include "intake/picture/library_problem.h"
 #include "intake/picture/mapped_file.h"
 
@@ -119,6 +121,10 @@ PictureFile::PictureFile(std::string path) : path_(std::move(path)), document_(d
 void PictureFile::readOutlines() {
     const Info info = infoOf(document_.decoder, path_);
     selectPictures(*info, 0, document_.decoder == "TIFF" ? sMostPictures : 1);
+    std::optional<RoomForReduction> room;
+    if (canReduce()) {
+        room.emplace();
+    }
     LibraryProblem problem;
     const LibraryImage images(PingImage(info.get(), problem.info()));
     for (const Image* image = images.get(); image != nullptr; image = image->next) {
