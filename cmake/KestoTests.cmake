@@ -44,9 +44,10 @@ function(kesto_test_program name)
 endfunction()
 
 # Tests that start the filter or print a page write to folders that all processes share, under names
-# that change by the second only. Where mount namespaces are to be had, as root, each runs with folders
-# of its own; elsewhere they run one at a time. COMMAND ${KESTO_OWN_FOLDERS} ... PROPERTIES
-# ${KESTO_SPOOL_LOCK} does it for a test, SPOOL below for a whole program.
+# that change by the second only, so they run one at a time. Those that take long run with folders of
+# their own where mount namespaces are to be had, which is as root: COMMAND ${KESTO_OWN_FOLDERS} ...
+# PROPERTIES ${KESTO_SPOOL_LOCK} does it for a test, OWN_FOLDERS below for a whole program. For a short
+# one that would take longer than its turn.
 execute_process(COMMAND ${PROJECT_SOURCE_DIR}/tests/support/own_folders ${PROJECT_SOURCE_DIR} true
     RESULT_VARIABLE no_own_folders OUTPUT_QUIET ERROR_QUIET)
 if(no_own_folders)
@@ -58,11 +59,14 @@ else()
     set(KESTO_SPOOL_LOCK "")
 endif()
 
-# kesto_discover_tests(NAME LABEL LABEL [SPOOL] [OPTION...]): makes a test of CTest of every test in
-# a program. What else is given goes to gtest_discover_tests.
+# kesto_discover_tests(NAME LABEL LABEL [SPOOL | OWN_FOLDERS] [OPTION...]): makes a test of CTest of
+# every test in a program. SPOOL is for those that start the filter or print a page. What else is given
+# goes to gtest_discover_tests.
 function(kesto_discover_tests name)
-    cmake_parse_arguments(PARSE_ARGV 1 tests "SPOOL" "LABEL" "PROPERTIES")
+    cmake_parse_arguments(PARSE_ARGV 1 tests "SPOOL;OWN_FOLDERS" "LABEL" "PROPERTIES")
     if(tests_SPOOL)
+        list(APPEND tests_PROPERTIES RESOURCE_LOCK spool)
+    elseif(tests_OWN_FOLDERS)
         list(APPEND tests_PROPERTIES ${KESTO_SPOOL_LOCK})
         # What this version of CMake puts in front of a program that is a test.
         set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR "${KESTO_OWN_FOLDERS}")
