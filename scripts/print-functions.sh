@@ -29,10 +29,15 @@ escaped() {
     echo "${option//\"/\\\"}"
 }
 
-# The programs of the queue: CUPS's filters and the ones that were built here.
+# The programs of the queue: CUPS's filters and the ones that were built here. Beside them are the kinds
+# of documents that the scheduler knows with this driver, without what an installed one says of them.
 programs=build/cups
 link_programs() {
     local own filter
+    mkdir -p "$programs/data/mime"
+    ln -sf "$(cups-config --datadir)"/mime/* "$programs/data/mime/"
+    rm -f "$programs/data/mime"/kesto-tspl.*
+    ln -s "$PWD/packaging/kesto-tspl.types" "$programs/data/mime/"
     mkdir -p "$programs/filter"
     for filter in "$(cups-config --serverbin)"/filter/*; do
         ln -sf "$filter" "$programs/filter/"
@@ -51,8 +56,9 @@ printable() {
     for option in "$@"; do
         cups_options+=(-o "$option")
     done
-    converters=$(cupsfilter --list-filters -m application/pdf "$document" 2>/dev/null) ||
-        fail "CUPS cannot convert this kind of document: $document"
+    # Nothing for a picture that CUPS does not know, or for no kind of document.
+    converters=$(CUPS_DATADIR=$PWD/$programs/data cupsfilter --list-filters -m application/pdf \
+        "$document" 2>/dev/null) || true
     if ! grep -q -e texttopdf -e gstopdf <<<"$converters"; then
         echo "$document"
         return
