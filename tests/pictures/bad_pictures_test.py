@@ -325,6 +325,7 @@ def large_pictures_take_bounded_memory():
     assert done.usage.ru_maxrss < (400 << 10) * (8 if SANITIZED else 1), f'{done.usage.ru_maxrss} KB'
     rows = labels_of(done.raster)[0].rows
     assert {level for row in rows for level in row} == {128}, 'not one colour'
+    refused(one_colour(11000, 10000))
 
 
 def a_photograph_of_50_megapixels_takes_little_memory():
