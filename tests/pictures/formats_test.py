@@ -123,6 +123,21 @@ def every_page_of_a_tiff_file_is_a_label():
         assert_equal(one.rows, samples(page, 'r'), 'a page')
 
 
+def a_tiff_file_may_have_very_many_pages():
+    pages = [tiff.Page([[0] * 4] * 6)] * 1200 + [tiff.Page([[80] * 4] * 6)]
+    found = labels(tiff.tiff(*pages), (4, 6), 'page-ranges=1200-1201')
+    assert [one.rows for one in found] == [[[0] * 4] * 6, [[80] * 4] * 6], len(found)
+
+
+def remarks_may_be_long():
+    rows = samples(format_table.GREY, 'r')
+    for kind, levels in ((5, rows), (4, format_table.bits_of(format_table.BITS))):
+        for length in (1000, 5000, 100000):
+            content = pnm_files.pnm(kind, levels, comment=b'#' + b'x' * length + b'\n')
+            seen = rows if kind == 5 else samples(format_table.BITS, 'r')
+            assert_equal(label(content, (14, 22)), seen, f'P{kind} with {length}')
+
+
 def pages_of_a_tiff_file_may_differ_in_all():
     bits, colours = pixels.grey(14, 22, (0, 255)), pixels.colours(22, 14)
     content = tiff.tiff(tiff.Page(format_table.bits_of(bits), bits=1),
