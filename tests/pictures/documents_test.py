@@ -3,7 +3,7 @@ import subprocess
 
 import bad_pictures_test
 import bmp_files as bmp
-from code_pictures import burnt, png_of_bits
+from code_pictures import burnt, enlarged, png_of_bits
 import document_run
 from document_run import document, printed
 import format_table
@@ -96,6 +96,25 @@ def options_come_as_users_write_them():
             (upright, 'orientation-requested=5', clockwise)):
         pages = printed(content, f'{SIZE} {options}')
         assert [burnt(page) for page in pages] == [expected], options
+
+
+def parts_of_a_picture_are_labels_too():
+    """Two by two, from the top down and then to the right; each half of the picture doubled."""
+    halves = [(0, 0), (0, 160), (240, 0), (240, 160)]
+    expected = [enlarged([row[left:left + 240] for row in BLACK[top:top + 160]], 2)
+                for left, top in halves]
+    for options, chosen in (('scaling=200', expected), ('ppi=101.5', expected),
+                            ('natural-scaling=200', expected),
+                            ('scaling=200 page-ranges=2-3', expected[1:3])):
+        pages = printed(png_of_bits(BLACK), f'{SIZE} {options}', copies=2)
+        assert [burnt(page) for page in pages] == chosen, (options, len(pages))
+        assert {page.sets * page.copies for page in pages} == {2}, options
+
+
+def stencils_take_pictures_too():
+    rows = pixels.blocks(240, 340, size=20)
+    pages = printed(png.png(pixels.samples(rows, 'r')), 'PageSize=Tattoo_A6', model='ksts300')
+    assert len(pages) == 1 and pages[0].burnt_share() > 0.01
 
 
 def pages_of_tiff_are_labels_with_copies():
