@@ -311,6 +311,8 @@ def pages_before_a_damaged_one_are_printed():
     start = len(whole)
     done = run_bounded(tiff.tiff(*(tiff.Page(rows) for rows in pages[:2]), next_of_last=start + 999),
                        (16, 24))
+    assert done.status == 1, done.lines
+    one_clear_line(done)
     assert [one.rows for one in labels_of(done.raster)] == pages[:2]
 
 

@@ -9,6 +9,7 @@ import pixels
 import png_files as png
 import pnm_files as pnm
 import tiff_files as tiff
+import tool_files
 from area_average import (clockwise, counter_clockwise, cropped, mirrored, placed, scaled,
                           upside_down)
 from picture_run import Faults, Run, assert_equal, command, label, labels
@@ -444,6 +445,16 @@ def a_jpeg_that_its_decoder_may_reduce_is_averaged_all_the_same():
         assert_equal(label(content, dots), scaled(rows, *dots), dots, 1)
     natural = label(content, (40, 60), 'print-scaling=none', dpi=75)
     assert_equal(natural, cropped(rows, 20, 30, 40, 60), 'natural size')
+
+
+def a_jpeg_is_not_reduced_to_nearly_its_dots():
+    """An eighth would be a sample and a quarter for each dot, of stripes that had become grey: dots
+    would be means of more than lies under them."""
+    stripes = [[(255 * (x // 4 % 2),) * 3 + (255,) for x in range(160)]] * 240
+    content = tool_files.jpeg(stripes, '-grayscale', '-quality', '100')
+    expected = scaled(pixels.samples(stripes, 'r'), *LABEL)
+    assert {153, 102} <= set(expected[0]), expected[0]
+    assert_equal(label(content, LABEL), expected, 'stripes', 3)
 
 
 def a_jpeg_that_is_turned_and_reduced_is_both():
