@@ -448,12 +448,12 @@ def a_jpeg_that_its_decoder_may_reduce_is_averaged_all_the_same():
 
 
 def a_jpeg_is_not_reduced_to_nearly_its_dots():
-    """An eighth would be a sample and a quarter for each dot, of stripes that had become grey: dots
+    """An eighth would be 1.3 samples for each dot, of stripes that had become grey: dots
     would be means of more than lies under them."""
-    stripes = [[(255 * (x // 4 % 2),) * 3 + (255,) for x in range(160)]] * 240
+    stripes = [[(255 * (x // 4 % 2),) * 3 + (255,) for x in range(168)]] * 252
     content = tool_files.jpeg(stripes, '-grayscale', '-quality', '100')
     expected = scaled(pixels.samples(stripes, 'r'), *LABEL)
-    assert {153, 102} <= set(expected[0]), expected[0]
+    assert max(expected[0]) - min(expected[0]) > 40, expected[0]
     assert_equal(label(content, LABEL), expected, 'stripes', 3)
 
 
