@@ -3,6 +3,7 @@ import subprocess
 import zlib
 
 import png_files as png
+import tool_files
 from picture_run import write
 
 # What each code says, and the width of its narrowest module in millimetres.
@@ -71,6 +72,12 @@ def png_of_bits(rows, *chunks):
         (width + filled) // 8, 'big') for row in rows)
     return (png.header(width, len(rows), png.GREY, 1) + b''.join(png.chunk(*one) for one in chunks) +
             png.chunk(b'IDAT', zlib.compress(data, 1)) + png.chunk(b'IEND', b''))
+
+
+def jpeg_of_bits(rows):
+    levels = {ord('0'): '\xff', ord('1'): '\0'}
+    body = b'P5 %d %d 255\n' % (len(rows[0]), len(rows)) + ''.join(rows).translate(levels).encode('latin-1')
+    return tool_files.by(['cjpeg', '-quality', '90', '-outfile', '{1}', '{0}'], body, 'jpg', 'pgm')
 
 
 def enlarged(rows, factor):

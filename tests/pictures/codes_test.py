@@ -1,8 +1,8 @@
 """Whole-label pictures with seven codes, from the scheduler's file to the dots that burn."""
 import subprocess
 
-from code_pictures import (CODES, burnt, enlarged, grown, grown_all_around, label_bits, png_of_bits,
-                           read_from, read_from_bits)
+from code_pictures import (CODES, burnt, enlarged, grown, grown_all_around, jpeg_of_bits, label_bits,
+                           png_of_bits, read_from, read_from_bits)
 import document_run
 from document_run import printed
 import picture_run
@@ -43,6 +43,16 @@ def codes_of_every_resolution_are_read():
                 with faults.of(f'{dpi} dpi on {model}'):
                     found = read_from(drawn_by_the_previewer(label_bits(dpi), model))
                     assert found == set(CODES), set(CODES) - found
+
+
+def codes_in_jpeg_are_read_however_it_is_decoded():
+    """Of 500 dpi its decoder may take the half."""
+    with Faults() as faults:
+        for dpi, model in ((500, 'kstl203'), (600, 'kstl203'), (600, 'kstl300')):
+            with faults.of(f'{dpi} dpi on {model}'):
+                pages = printed(jpeg_of_bits(label_bits(dpi)), 'HalftoneType=None', model=model)
+                found = read_from_bits(burnt(pages[0]))
+                assert len(pages) == 1 and found == set(CODES), set(CODES) - found
 
 
 def no_fewer_codes_are_read_when_dots_grow():
