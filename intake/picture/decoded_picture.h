@@ -10,8 +10,9 @@
 #include "intake/picture/colour_profile.h"
 #include "intake/picture/file_details.h"
 
-struct _Image;
-struct _PixelPacket;
+// Names of GraphicsMagick.
+struct _Image;        // NOLINT(bugprone-reserved-identifier)
+struct _PixelPacket;  // NOLINT(bugprone-reserved-identifier)
 
 namespace intake::picture {
 

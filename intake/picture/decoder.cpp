@@ -28,13 +28,16 @@ void startDecoder(long samples) {
 }
 
 RoomForReduction::RoomForReduction()
-    : samples_(static_cast<long>(GetMagickResourceLimit(PixelsResource))) {
+    : samples_(static_cast<long>(GetMagickResourceLimit(PixelsResource))),
+      memory_(static_cast<long>(GetMagickResourceLimit(MemoryResource))) {
     constexpr long times = 4;
     SetMagickResourceLimit(PixelsResource, samples_ * times);
+    SetMagickResourceLimit(MemoryResource, memory_ * times);
 }
 
 RoomForReduction::~RoomForReduction() {
     SetMagickResourceLimit(PixelsResource, samples_);
+    SetMagickResourceLimit(MemoryResource, memory_);
 }
 
 }  // namespace intake::picture

@@ -9,8 +9,8 @@ inline constexpr long mostSamples = 100'000'000;
 /// bounds what it may take, as SECURITY.md says.
 void startDecoder(long samples = mostSamples);
 
-/// While one of these lives a picture may have four times as many dots: its decoder is going to
-/// make it smaller.
+/// While one of these lives a picture may have four times as many dots and four times the memory:
+/// its decoder makes it smaller, but may have to hold all of it before that.
 class RoomForReduction {
 public:
     RoomForReduction();
@@ -20,6 +20,7 @@ public:
 
 private:
     long samples_;
+    long memory_;
 };
 
 }  // namespace intake::picture

@@ -174,7 +174,9 @@ void failIfImproper(PnmHead head, char kind) {
 }
 
 FileDetails pnmDetails(const Descriptor& file) {
-    const Bytes bytes = bytesAt(file, 0, tellingBytes);
+    // Remarks may be as long as their writers like.
+    constexpr std::size_t longestHead = 1U << 20U;
+    const Bytes bytes = bytesAt(file, 0, longestHead);
     const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     const char kind = text.size() > 1 ? text[1] : '7';
     if (kind == '7') {

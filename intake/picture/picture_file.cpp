@@ -13,11 +13,13 @@
 #include "intake/picture/decoder.h"
 #include "intake/picture/library_problem.h"
 #include "intake/picture/mapped_file.h"
+#include "intake/picture/quiet_errors.h"
+#include "intake/picture/tiff_chain.h"
 
 namespace intake::picture {
 namespace {
 
-constexpr std::size_t sMostPictures = 1000;
+constexpr std::size_t sMostPictures = 5000;
 
 struct DestroyInfo {
     void operator()(ImageInfo* info) const { DestroyImageInfo(info); }
@@ -120,13 +122,9 @@ PictureFile::PictureFile(std::string path) : path_(std::move(path)), document_(d
 
 void PictureFile::readOutlines() {
     const Info info = infoOf(document_.decoder, path_);
-    selectPictures(*info, 0, document_.decoder == "TIFF" ? sMostPictures : 1);
-    std::optional<RoomForReduction> room;
-    if (canReduce()) {
-        room.emplace();
-    }
+    selectPictures(*info, 0, hasPages() ? sMostPictures : 1);
     LibraryProblem problem;
-    const LibraryImage images(PingImage(info.get(), problem.info()));
+    const LibraryImage images = ping(*info, problem);
     for (const Image* image = images.get(); image != nullptr; image = image->next) {
         pictures_.push_back(outlineOf(*image, document_, details_));
     }
@@ -135,7 +133,20 @@ void PictureFile::readOutlines() {
     }
     if (problem.isError()) {
         problem_ = problem.text(path_);
+    } else if (pictures_.size() == sMostPictures) {
+        problem_ = "there may be " + std::to_string(sMostPictures - 1) + " at most";
+    } else if (hasPages() && !isTiffChainWhole(path_)) {
+        problem_ = "the list of its pages breaks off";
     }
+}
+
+LibraryImage PictureFile::ping(const ImageInfo& info, LibraryProblem& problem) const {
+    const QuietErrors quiet;
+    std::optional<RoomForReduction> room;
+    if (canReduce()) {
+        room.emplace();
+    }
+    return LibraryImage(PingImage(&info, problem.info()));
 }
 
 LibraryImage PictureFile::read(std::size_t index, unsigned reduction) const {
@@ -159,7 +170,16 @@ LibraryImage PictureFile::readWith(std::size_t index, unsigned reduction,
         const PictureOutline& outline = pictures_.at(index);
         setSize(*info, outline.width / reduction, outline.height / reduction);
     }
+    const QuietErrors quiet;
+    std::optional<RoomForReduction> room;
+    if (canReduce()) {
+        room.emplace();
+    }
     return LibraryImage(ReadImage(info.get(), problem.info()));
+}
+
+bool PictureFile::hasPages() const {
+    return document_.decoder == "TIFF";
 }
 
 bool PictureFile::canReduce() const {

@@ -9,6 +9,9 @@
 #include "intake/picture/placement.h"
 #include "intake/picture/turn.h"
 
+// NOLINTNEXTLINE(bugprone-reserved-identifier): a name of GraphicsMagick
+struct _ImageInfo;
+
 namespace intake::picture {
 
 class LibraryProblem;
@@ -41,6 +44,8 @@ public:
 
 private:
     void readOutlines();
+    bool hasPages() const;
+    LibraryImage ping(const _ImageInfo& info, LibraryProblem& problem) const;
     LibraryImage read(std::size_t index, unsigned reduction) const;
     LibraryImage readWith(std::size_t index, unsigned reduction, LibraryProblem& problem) const;
 
