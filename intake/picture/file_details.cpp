@@ -173,6 +173,12 @@ void failIfImproper(PnmHead head, char kind) {
     }
 }
 
+bool endsInDigit(const Descriptor& file) {
+    const off_t size = lseek(file.number(), 0, SEEK_END);
+    const Bytes last = bytesAt(file, static_cast<std::uint64_t>(std::max<off_t>(size, 1)) - 1, 1);
+    return !last.empty() && last[0] >= '0' && last[0] <= '9';
+}
+
 FileDetails pnmDetails(const Descriptor& file) {
     // Remarks may be as long as their writers like.
     constexpr std::size_t longestHead = 1U << 20U;
@@ -185,7 +191,9 @@ FileDetails pnmDetails(const Descriptor& file) {
     PnmHead head(text);
     failIfImproper(head, kind);
     if (kind != '5' && kind != '6') {
-        return {};
+        FileDetails details;
+        details.lacksLineEnd = kind != '4' && endsInDigit(file);
+        return details;
     }
     NarrowSamples samples;
     samples.isColour = kind == '6';

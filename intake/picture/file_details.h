@@ -37,7 +37,9 @@ struct FileDetails {
     bool mayHaveNoAlpha = false;
     /// PNM of a maximum under 255.
     std::optional<NarrowSamples> narrow;
-    /// Of these, and of BMP of 16 bits: red, green and blue.
+    /// PNM in digits that ends with one.
+    bool lacksLineEnd = false;
+    /// Of narrow ones, and of BMP of 16 bits: red, green and blue.
     std::optional<std::array<SampleRange, 3>> ranges;
 };
 

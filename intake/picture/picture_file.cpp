@@ -54,6 +54,15 @@ LibraryImage readNarrow(const NarrowSamples& samples, const std::string& path,
     return LibraryImage(BlobToImage(info.get(), bytes.data(), bytes.size(), problem.info()));
 }
 
+// The decoder wants something behind the last number.
+LibraryImage readWithLineEnd(const std::string& path, LibraryProblem& problem) {
+    const MappedFile file(path);
+    std::vector<unsigned char> bytes(file.bytes().begin(), file.bytes().end());
+    bytes.push_back('\n');
+    const Info info = infoOf("PNM", {});
+    return LibraryImage(BlobToImage(info.get(), bytes.data(), bytes.size(), problem.info()));
+}
+
 void selectPictures(ImageInfo& info, std::size_t first, std::size_t count) {
     info.subimage = first;
     info.subrange = count;
@@ -151,12 +160,21 @@ LibraryImage PictureFile::ping(const ImageInfo& info, LibraryProblem& problem) c
 
 LibraryImage PictureFile::read(std::size_t index, unsigned reduction) const {
     LibraryProblem problem;
-    LibraryImage image = details_.narrow ? readNarrow(*details_.narrow, path_, problem)
-                                         : readWith(index, reduction, problem);
+    LibraryImage image = readAny(index, reduction, problem);
     if (!image || problem.isError() || problem.isDamage()) {
         failToRead(problem.text(path_));
     }
     return image;
+}
+
+LibraryImage PictureFile::readAny(std::size_t index, unsigned reduction,
+                                  LibraryProblem& problem) const {
+    const QuietErrors quiet;
+    if (details_.narrow) {
+        return readNarrow(*details_.narrow, path_, problem);
+    }
+    return details_.lacksLineEnd ? readWithLineEnd(path_, problem)
+                                 : readWith(index, reduction, problem);
 }
 
 LibraryImage PictureFile::readWith(std::size_t index, unsigned reduction,
@@ -170,7 +188,6 @@ LibraryImage PictureFile::readWith(std::size_t index, unsigned reduction,
         const PictureOutline& outline = pictures_.at(index);
         setSize(*info, outline.width / reduction, outline.height / reduction);
     }
-    const QuietErrors quiet;
     std::optional<RoomForReduction> room;
     if (canReduce()) {
         room.emplace();

@@ -47,6 +47,7 @@ private:
     bool hasPages() const;
     LibraryImage ping(const _ImageInfo& info, LibraryProblem& problem) const;
     LibraryImage read(std::size_t index, unsigned reduction) const;
+    LibraryImage readAny(std::size_t index, unsigned reduction, LibraryProblem& problem) const;
     LibraryImage readWith(std::size_t index, unsigned reduction, LibraryProblem& problem) const;
 
     std::string path_;

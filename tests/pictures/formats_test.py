@@ -138,6 +138,12 @@ def remarks_may_be_long():
             assert_equal(label(content, (14, 22)), seen, f'P{kind} with {length}')
 
 
+def digits_may_be_the_last_bytes():
+    rows = samples(format_table.GREY, 'r')
+    content = pnm_files.pnm(2, rows)
+    assert_equal(label(content.rstrip(), (14, 22)), rows, 'P2 without a line end')
+
+
 def pages_of_a_tiff_file_may_differ_in_all():
     bits, colours = pixels.grey(14, 22, (0, 255)), pixels.colours(22, 14)
     content = tiff.tiff(tiff.Page(format_table.bits_of(bits), bits=1),

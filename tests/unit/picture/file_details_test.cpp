@@ -74,6 +74,12 @@ TEST(FileDetails, OfPnmRefuseNumbersThatAreNone) {
     EXPECT_NO_THROW(detailsOf("P4\n5 5\n"));
 }
 
+TEST(FileDetails, OfPnmInDigitsKnowWhetherTheyEndWithOne) {
+    EXPECT_TRUE(detailsOf("P2 1 2 255 7 8").lacksLineEnd);
+    EXPECT_FALSE(detailsOf("P2 1 2 255 7 8\n").lacksLineEnd);
+    EXPECT_FALSE(detailsOf("P5 1 2 255\n18").lacksLineEnd);
+}
+
 TEST(FileDetails, OfPngKnowTheTransparentColour) {
     const std::string signature = "\x89PNG\r\n\x1a\n";
     const std::string colour(
