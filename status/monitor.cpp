@@ -1,0 +1,298 @@
+#include "status/monitor.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <sys/signalfd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+namespace status {
+namespace {
+
+using Time = PrinterWatch::Time;
+
+constexpr std::array<std::uint8_t, 3> question{0x1b, '!', '?'};
+constexpr std::array<std::uint8_t, 2> lineEnd{'\r', '\n'};
+
+// How soon it is seen that the backend has taken what was written.
+constexpr Time backendPace{20};
+// For the line end behind a cancelled bitmap, which comes with its last bytes or not at all.
+constexpr Time lineEndPatience{100};
+
+Time now() {
+    return std::chrono::duration_cast<Time>(std::chrono::steady_clock::now().time_since_epoch());
+}
+
+bool isPipe(int descriptor) {
+    struct stat details = {};
+    return fstat(descriptor, &details) == 0 && S_ISFIFO(details.st_mode);
+}
+
+bool isForLater() {
+    return errno == EAGAIN || errno == EINTR;
+}
+
+bool isReadable(int descriptor) {
+    pollfd look{descriptor, POLLIN, 0};
+    return poll(&look, 1, 0) > 0 && (look.revents & POLLIN) != 0;
+}
+
+}  // namespace
+
+// The output is shared with nobody who writes, so that nobody sees that it does not block.
+Monitor::Monitor(const MonitorStreams& streams, StateReport& report, const MuteMemory& memory,
+                 StateReport::Line line)
+    : streams_(streams),
+      report_(report),
+      memory_(memory),
+      line_(std::move(line)),
+      watch_(memory.isMute()),
+      outputFlags_(fcntl(streams.output, F_GETFL)),
+      isPipe_(isPipe(streams.output)) {
+    fcntl(streams.output, F_SETFL, outputFlags_ | O_NONBLOCK);
+}
+
+Monitor::~Monitor() {
+    fcntl(streams_.output, F_SETFL, outputFlags_);
+}
+
+Monitor::End Monitor::run() {
+    while (step()) {
+    }
+    report_.clear();
+    if (isInDoubt_ && !hasFailed_ && !isCancelled_) {
+        fail("The printer has fallen silent while it was stopped: labels may be missing");
+    }
+    return hasFailed_ ? End::Failed : End::Well;
+}
+
+bool Monitor::step() {
+    work();
+    if (hasFailed_ || isDone()) {
+        return false;
+    }
+    const Ready ready = wait();
+    if (ready.signals) {
+        noteCancelling();
+    }
+    if (ready.backChannel) {
+        readAnswers();
+    }
+    if (ready.outputGone) {
+        if (!isDone()) {
+            fail("Nobody takes the printer's data any more");
+        }
+        return false;
+    }
+    if (!hasBackChannel_) {
+        tell(watch_.lineClosed());
+    }
+    if (ready.input) {
+        readStream();
+    }
+    noteWhatIsTaken();
+    tell(watch_.passed(now()));
+    return true;
+}
+
+bool Monitor::isDone() {
+    if (isCancelled_) {
+        return gate_.isFinished() || (!hasInput_ && gate_.next(Hold::Nothing).empty());
+    }
+    return gate_.isDrained() && watch_.isOver();
+}
+
+void Monitor::work() {
+    while (!hasFailed_ && !isBlocked_ && (ask() || copy())) {
+    }
+    if (gate_.isDrained()) {
+        watch_.streamEnded();
+    }
+    if (isCancelled_ && !hasFailed_) {
+        endLineOfData();
+    }
+    noteWhatIsTaken();
+}
+
+Monitor::Ready Monitor::wait() {
+    const bool takesInput = hasInput_ && !gate_.room().empty();
+    std::array<pollfd, 4> look{{
+        {takesInput ? streams_.input : -1, POLLIN, 0},
+        {hasBackChannel_ ? streams_.backChannel : -1, POLLIN, 0},
+        {streams_.signals, POLLIN, 0},
+        {streams_.output, static_cast<short>(isBlocked_ ? POLLOUT : 0), 0},
+    }};
+    if (poll(look.data(), look.size(), timeout()) < 0) {
+        return {};
+    }
+    if ((look[3].revents & POLLOUT) != 0) {
+        isBlocked_ = false;
+    }
+    return {look[0].revents != 0, look[1].revents != 0, look[2].revents != 0,
+            (look[3].revents & (POLLERR | POLLNVAL)) != 0};
+}
+
+int Monitor::timeout() const {
+    std::optional<Time> until = watch_.endOfPatience();
+    const auto bringForward = [&until](std::optional<Time> moment) {
+        until = until && moment ? std::min(*until, *moment) : (moment ? moment : until);
+    };
+    if (gate_.isBetweenCommands() && !isBlocked_ && !isCancelled_) {
+        bringForward(watch_.nextQuestion());
+    }
+    if (watch_.waitsForBackend()) {
+        bringForward(now() + backendPace);
+    }
+    if (lineEndMissingSince_) {
+        bringForward(*lineEndMissingSince_ + lineEndPatience);
+    }
+    return until ? static_cast<int>(std::max(*until - now(), Time{0}).count()) : -1;
+}
+
+void Monitor::noteCancelling() {
+    signalfd_siginfo signal = {};
+    if (read(streams_.signals, &signal, sizeof signal) > 0) {
+        isCancelled_ = true;
+        gate_.cancel();
+    }
+}
+
+void Monitor::readStream() {
+    const auto room = gate_.room();
+    const ssize_t count = read(streams_.input, room.data(), room.size());
+    if (count > 0) {
+        gate_.filled(static_cast<std::size_t>(count));
+    } else if (count == 0) {
+        hasInput_ = false;
+        gate_.end();
+    } else if (!isForLater()) {
+        hasInput_ = false;
+        fail(std::string("Unable to read the stream: ") + std::strerror(errno));
+    }
+}
+
+void Monitor::readAnswers() {
+    std::array<std::uint8_t, 1024> bytes{};
+    const ssize_t count = read(streams_.backChannel, bytes.data(), bytes.size());
+    if (count > 0) {
+        tell(watch_.answered(std::span(bytes).first(static_cast<std::size_t>(count))));
+    } else if (count == 0 || !isForLater()) {
+        hasBackChannel_ = false;
+    }
+}
+
+void Monitor::tell(PrinterWatch::Event event) {
+    switch (event) {
+        case PrinterWatch::Event::None:
+            break;
+        case PrinterWatch::Event::FirstAnswer:
+            memory_.forget();
+            report_.show(watch_.status());
+            break;
+        case PrinterWatch::Event::Changed:
+            report_.show(watch_.status());
+            break;
+        case PrinterWatch::Event::Mute:
+            memory_.remember();
+            line_("INFO: The printer does not tell its state.");
+            break;
+        case PrinterWatch::Event::FellSilent:
+            isInDoubt_ = watch_.isStopped();
+            report_.clear();
+            line_("INFO: The printer does not tell its state any more.");
+            break;
+    }
+}
+
+// Until its pipe is empty the backend may still be looking for a printer that is switched off.
+void Monitor::noteWhatIsTaken() {
+    if (!watch_.waitsForBackend()) {
+        return;
+    }
+    int left = 0;
+    if (!isPipe_ || ioctl(streams_.output, FIONREAD, &left) != 0 || left == 0) {
+        watch_.taken(now());
+    }
+}
+
+// What the printer has said without being asked is read away before, so that it is no answer.
+bool Monitor::ask() {
+    if (isCancelled_ || !gate_.isBetweenCommands() || !watch_.wantsToAsk(now())) {
+        return false;
+    }
+    while (hasBackChannel_ && isReadable(streams_.backChannel)) {
+        readAnswers();
+    }
+    if (!hasBackChannel_ || !watch_.wantsToAsk(now())) {
+        return false;
+    }
+    std::span<const std::uint8_t> rest(question);
+    const std::size_t written = writeSome(rest);
+    if (written == 0) {
+        return false;
+    }
+    // Pipes take three bytes whole or not at all; on anything else it is worth a moment.
+    for (rest = rest.subspan(written); !rest.empty() && !hasFailed_;) {
+        pollfd output{streams_.output, POLLOUT, 0};
+        poll(&output, 1, -1);
+        rest = rest.subspan(writeSome(rest));
+    }
+    watch_.asked(now());
+    return true;
+}
+
+bool Monitor::copy() {
+    if (isBlocked_ || hasFailed_) {
+        return false;
+    }
+    const auto bytes = gate_.next(watch_.hold());
+    const std::size_t written = bytes.empty() ? 0 : writeSome(bytes);
+    gate_.handedOn(written);
+    watch_.printed(gate_.prints());
+    return written > 0;
+}
+
+void Monitor::endLineOfData() {
+    if (!gate_.needsLineEnd()) {
+        lineEndMissingSince_.reset();
+        return;
+    }
+    if (!lineEndMissingSince_) {
+        lineEndMissingSince_ = now();
+    }
+    if (!hasInput_ || now() - *lineEndMissingSince_ >= lineEndPatience) {
+        writeSome(lineEnd);
+        gate_.endData();
+    }
+}
+
+std::size_t Monitor::writeSome(std::span<const std::uint8_t> bytes) {
+    const ssize_t count = write(streams_.output, bytes.data(), bytes.size());
+    if (count >= 0) {
+        isBlocked_ = static_cast<std::size_t>(count) < bytes.size();
+        return static_cast<std::size_t>(count);
+    }
+    if (isForLater()) {
+        isBlocked_ = true;
+    } else {
+        fail(std::string("Unable to write to the backend: ") + std::strerror(errno));
+    }
+    return 0;
+}
+
+void Monitor::fail(const std::string& text) {
+    if (!hasFailed_) {
+        report_.clear();
+        line_((isCancelled_ ? "DEBUG: " : "ERROR: ") + text);
+    }
+    hasFailed_ = !isCancelled_;
+}
+
+}  // namespace status

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "status/mute_memory.h"
+#include "status/printer_watch.h"
+#include "status/state_report.h"
+#include "status/stream_gate.h"
+
+namespace status {
+
+/// The descriptors that a port monitor has.
+struct MonitorStreams {
+    int input;        ///< the stream
+    int output;       ///< to the backend
+    int backChannel;  ///< what the printer says
+    int signals;      ///< a signalfd: something to read there is the wish to end the job
+};
+
+/// The job of a port monitor: copies the stream, asks between commands, reports the answers.
+class Monitor {
+public:
+    /// Whether the job went well; what did not has been said in a line.
+    enum class End { Well, Failed };
+
+    Monitor(const MonitorStreams& streams, StateReport& report, const MuteMemory& memory,
+            StateReport::Line line);
+    ~Monitor();
+    Monitor(const Monitor&) = delete;
+    Monitor& operator=(const Monitor&) = delete;
+
+    End run();
+
+private:
+    using Time = PrinterWatch::Time;
+
+    struct Ready {
+        bool input;
+        bool backChannel;
+        bool signals;
+        bool outputGone;
+    };
+
+    bool step();
+    [[nodiscard]] bool isDone();
+    void work();
+    Ready wait();
+    [[nodiscard]] int timeout() const;
+    void noteCancelling();
+    void readStream();
+    void readAnswers();
+    void tell(PrinterWatch::Event event);
+    void noteWhatIsTaken();
+    bool ask();
+    bool copy();
+    void endLineOfData();
+    std::size_t writeSome(std::span<const std::uint8_t> bytes);
+    void fail(const std::string& text);
+
+    MonitorStreams streams_;
+    StateReport& report_;
+    const MuteMemory& memory_;
+    StateReport::Line line_;
+    StreamGate gate_;
+    PrinterWatch watch_;
+    int outputFlags_;
+    bool isPipe_;
+    bool hasBackChannel_ = true;
+    bool hasInput_ = true;
+    /// The output takes no more for the moment.
+    bool isBlocked_ = false;
+    bool isCancelled_ = false;
+    bool hasFailed_ = false;
+    /// The printer fell silent while it was stopped.
+    bool isInDoubt_ = false;
+    std::optional<Time> lineEndMissingSince_;
+};
+
+}  // namespace status

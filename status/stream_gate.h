@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "status/stream_guard.h"
+
+namespace status {
+
+/// What of the stream is held back.
+enum class Hold {
+    Nothing,
+    Label,       ///< what makes or prints a label: BITMAP, DOWNLOAD, PRINT
+    Everything,  ///< every command that is not under way
+};
+
+/// The piece of the stream between its two ends: takes it as it comes, hands it on command by
+/// command, and holds commands back. What has been handed on in part goes on until its command
+/// ends, whatever is held. No descriptors: the owner reads and writes.
+class StreamGate {
+public:
+    StreamGate();
+
+    /// Where the next bytes of the stream belong; empty while there is no room.
+    std::span<std::uint8_t> room();
+    /// So many bytes have been put there.
+    void filled(std::size_t bytes) { filled_ += bytes; }
+    /// The stream has ended: a last line without its end counts as whole.
+    void end() { hasEnded_ = true; }
+
+    /// What is to be handed on now; empty when nothing may be, or nothing is there.
+    std::span<const std::uint8_t> next(Hold hold);
+    /// So many bytes of it have been handed on.
+    void handedOn(std::size_t bytes);
+
+    /// Whether an immediate command may be sent now.
+    [[nodiscard]] bool isBetweenCommands() const { return !isBegun_ && !isInProgram_; }
+    /// Number of whole PRINTs that have been handed on.
+    [[nodiscard]] std::uint64_t prints() const { return prints_; }
+    /// Whether the stream has ended and all of it has been handed on.
+    [[nodiscard]] bool isDrained() const { return hasEnded_ && start_ == filled_; }
+
+    /// From now on nothing is handed on but the rest of the command that is under way.
+    void cancel();
+    /// After cancel: whether the printer waits for no more.
+    [[nodiscard]] bool isFinished() const { return !isBegun_ || kind_ == Kind::LongLine; }
+    /// Whether of the command under way at most (a half of) the line end behind its data is
+    /// missing.
+    [[nodiscard]] bool needsLineEnd() const;
+    /// The owner has written that line end itself.
+    void endData() { isBegun_ = false; }
+
+private:
+    enum class Kind { Lines, Print, Data, LongLine };
+
+    void scan();
+    bool takePiece(std::size_t bytes, PieceKind kind);
+    bool takeLabelPart(Kind kind);
+    void takeLongLine();
+    void finishLastLine();
+    void segmentHandedOn();
+    void compact();
+    [[nodiscard]] bool isHeld(Hold hold) const;
+
+    StreamGuard guard_;
+    std::vector<std::uint8_t> buffer_;
+    // start_ <= segmentEnd_ <= nextEnd_ <= scanned_ <= filled_: what is handed on now, what comes
+    // next where that is known, what the guard has seen, what is there.
+    std::size_t start_ = 0;
+    std::size_t segmentEnd_ = 0;
+    std::size_t nextEnd_ = 0;
+    std::size_t scanned_ = 0;
+    std::size_t filled_ = 0;
+    Kind kind_ = Kind::Lines;
+    Kind nextKind_ = Kind::Lines;
+    bool hasNext_ = false;
+    /// A command has been handed on in part.
+    bool isBegun_ = false;
+    bool isInProgram_ = false;
+    bool hasEnded_ = false;
+    bool isCancelled_ = false;
+    std::uint64_t prints_ = 0;
+};
+
+}  // namespace status
