@@ -148,10 +148,12 @@ void StreamGate::cancel() {
     if (!isBegun_ || kind_ == Kind::Data || kind_ == Kind::LongLine) {
         return;
     }
-    const auto from = buffer_.begin() + static_cast<std::ptrdiff_t>(start_) - 1;
-    const auto to = buffer_.begin() + static_cast<std::ptrdiff_t>(segmentEnd_);
-    const auto end = std::find_if(from, to, endsLine);
-    segmentEnd_ = end == to ? segmentEnd_ : static_cast<std::size_t>(end - buffer_.begin()) + 1;
+    std::size_t end = start_ - 1;
+    while (end < segmentEnd_ && !endsLine(buffer_[end])) {
+        ++end;
+    }
+    const bool isHalf = end + 1 < segmentEnd_ && buffer_[end] == '\r' && buffer_[end + 1] == '\n';
+    segmentEnd_ = std::min(segmentEnd_, end + (isHalf ? 2 : 1));
     isBegun_ = start_ < segmentEnd_;
 }
 
