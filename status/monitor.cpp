@@ -106,7 +106,8 @@ bool Monitor::isDone() {
     if (isCancelled_) {
         return gate_.isFinished() || (!hasInput_ && gate_.next(Hold::Nothing).empty());
     }
-    return gate_.isDrained() && watch_.isOver();
+    // Where the stream broke off inside a bitmap, a question would be dots of it.
+    return gate_.isDrained() && (watch_.isOver() || !gate_.isBetweenCommands());
 }
 
 void Monitor::work() {

@@ -35,8 +35,11 @@ public:
     /// So many bytes of it have been handed on.
     void handedOn(std::size_t bytes);
 
-    /// Whether an immediate command may be sent now.
-    [[nodiscard]] bool isBetweenCommands() const { return !isBegun_ && !isInProgram_; }
+    /// Whether an immediate command may be sent now: not within a command, and not within a program
+    /// that is being stored, unless nothing more comes of it.
+    [[nodiscard]] bool isBetweenCommands() const {
+        return !isBegun_ && (!isInProgram_ || isDrained());
+    }
     /// Number of whole PRINTs that have been handed on.
     [[nodiscard]] std::uint64_t prints() const { return prints_; }
     /// Whether the stream has ended and all of it has been handed on.

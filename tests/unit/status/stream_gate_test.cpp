@@ -153,6 +153,23 @@ TEST(StreamGate, IsNotBetweenCommandsInAProgramThatIsStored) {
     EXPECT_TRUE(gate.isBetweenCommands());
 }
 
+TEST(StreamGate, IsBetweenCommandsWhereTheStreamEndsInAProgram) {
+    StreamGate gate;
+    fill(gate, "DOWNLOAD \"A.BAS\"\nPRINT 1\n");
+    passed(gate);
+    gate.end();
+    EXPECT_TRUE(gate.isBetweenCommands());
+}
+
+TEST(StreamGate, IsNotBetweenCommandsWhereTheStreamEndsInABitmap) {
+    StreamGate gate;
+    fill(gate, "BITMAP 0,0,2,2,0,abc");
+    passed(gate);
+    gate.end();
+    EXPECT_TRUE(gate.isDrained());
+    EXPECT_FALSE(gate.isBetweenCommands());
+}
+
 TEST(StreamGate, CancelledBetweenCommandsLetsNothingPass) {
     StreamGate gate;
     fill(gate, setUp + bitmap + print);
