@@ -1,5 +1,4 @@
 #include <fcntl.h>
-#include <sys/signalfd.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -48,28 +47,57 @@ bool isIgnored(int signal) {
     return sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }
 
-// SIGTERM counts even where the starter had it ignored: it is how jobs are cancelled.
+volatile std::sig_atomic_t sCancelled = 0;
+int sWakingEnd = -1;
+
+// The byte wakes what sleeps, whenever it comes; one is enough.
+void cancel(int /*signal*/) {
+    const int reason = errno;
+    if (sCancelled == 0) {
+        sCancelled = 1;
+        if (write(sWakingEnd, "", 1) < 0) {
+            sCancelled = 1;
+        }
+    }
+    errno = reason;
+}
+
+void take(int signal) {
+    struct sigaction action = {};
+    action.sa_handler = cancel;
+    sigfillset(&action.sa_mask);
+    sigaction(signal, &action, nullptr);
+}
+
+// SIGTERM counts even where the starter had it ignored or blocked: it is how jobs are cancelled.
+// Gives the end of a pipe that has something to read from then on; -1 when there is no pipe.
 int takeSignals() {
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) {
+        return -1;
+    }
+    sWakingEnd = ends[1];
+    take(SIGTERM);
     sigset_t signals;
     sigemptyset(&signals);
     sigaddset(&signals, SIGTERM);
     for (const int signal : {SIGINT, SIGHUP}) {
         if (!isIgnored(signal)) {
-            sigaddset(&signals, signal);
+            take(signal);
         }
     }
-    std::signal(SIGTERM, SIG_DFL);
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
-    sigprocmask(SIG_BLOCK, &signals, nullptr);
-    return signalfd(-1, &signals, SFD_CLOEXEC);
+    sigprocmask(SIG_UNBLOCK, &signals, nullptr);
+    return ends[0];
 }
 
-int monitor(int input, int signals) {
+int monitor(int input, int wake) {
     status::StateReport report(writeLine, variable("PRINTER_STATE_REASONS"));
     const status::MuteMemory memory(variable("CUPS_CACHEDIR"), variable("PRINTER"),
                                     variable("DEVICE_URI"));
-    status::Monitor job({input, STDOUT_FILENO, backChannel, signals}, report, memory, writeLine);
+    status::Monitor job({input, STDOUT_FILENO, backChannel, wake, &sCancelled}, report, memory,
+                        writeLine);
     return job.run() == status::Monitor::End::Well ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
@@ -86,14 +114,14 @@ int main(int argc, char* argv[]) {
         return EXIT_FAILURE;
     }
     try {
-        const int signals = takeSignals();
+        const int wake = takeSignals();
         const int input = argc > fewestArguments ? open(argv[fewestArguments], O_RDONLY | O_CLOEXEC)
                                                  : STDIN_FILENO;
-        if (signals < 0 || input < 0) {
+        if (wake < 0 || input < 0) {
             writeLine("ERROR: Unable to open the stream: " + std::string(std::strerror(errno)));
             return EXIT_FAILURE;
         }
-        return monitor(input, signals);
+        return monitor(input, wake);
     } catch (const std::exception& problem) {
         writeLine(std::string("ERROR: The job ends: ") + problem.what());
     }

@@ -3,7 +3,6 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/ioctl.h>
-#include <sys/signalfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -78,10 +77,12 @@ bool Monitor::step() {
     if (hasFailed_ || isDone()) {
         return false;
     }
-    const Ready ready = wait();
-    if (ready.signals) {
-        noteCancelling();
+    if (mayReadOn()) {
+        readStream();
+        return true;
     }
+    const Ready ready = wait();
+    noteCancelling();
     if (ready.backChannel) {
         readAnswers();
     }
@@ -100,6 +101,12 @@ bool Monitor::step() {
     noteWhatIsTaken();
     tell(watch_.passed(now()));
     return true;
+}
+
+// Inside data there is nothing to ask and nothing to hold, and cancelling waits for their end:
+// while no answer is due, the only thing to wait for is the stream.
+bool Monitor::mayReadOn() const {
+    return hasInput_ && !isBlocked_ && gate_.isInData() && !watch_.isAwaiting();
 }
 
 bool Monitor::isDone() {
@@ -127,7 +134,7 @@ Monitor::Ready Monitor::wait() {
     std::array<pollfd, 4> look{{
         {takesInput ? streams_.input : -1, POLLIN, 0},
         {hasBackChannel_ ? streams_.backChannel : -1, POLLIN, 0},
-        {streams_.signals, POLLIN, 0},
+        {isCancelled_ ? -1 : streams_.wake, POLLIN, 0},
         {streams_.output, static_cast<short>(isBlocked_ ? POLLOUT : 0), 0},
     }};
     if (poll(look.data(), look.size(), timeout()) < 0) {
@@ -136,7 +143,7 @@ Monitor::Ready Monitor::wait() {
     if ((look[3].revents & POLLOUT) != 0) {
         isBlocked_ = false;
     }
-    return {look[0].revents != 0, look[1].revents != 0, look[2].revents != 0,
+    return {look[0].revents != 0, look[1].revents != 0,
             (look[3].revents & (POLLERR | POLLNVAL)) != 0};
 }
 
@@ -158,8 +165,7 @@ int Monitor::timeout() const {
 }
 
 void Monitor::noteCancelling() {
-    signalfd_siginfo signal = {};
-    if (read(streams_.signals, &signal, sizeof signal) > 0) {
+    if (*streams_.isCancelled != 0 && !isCancelled_) {
         isCancelled_ = true;
         gate_.cancel();
     }
@@ -253,6 +259,7 @@ bool Monitor::copy() {
     if (isBlocked_ || hasFailed_) {
         return false;
     }
+    noteCancelling();
     const auto bytes = gate_.next(watch_.hold());
     const std::size_t written = bytes.empty() ? 0 : writeSome(bytes);
     gate_.handedOn(written);

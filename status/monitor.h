@@ -3,6 +3,7 @@
 #include <sys/types.h>
 
 #include <chrono>
+#include <csignal>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -15,12 +16,13 @@
 
 namespace status {
 
-/// The descriptors that a port monitor has.
+/// What a port monitor is started with.
 struct MonitorStreams {
     int input;        ///< the stream
     int output;       ///< to the backend
     int backChannel;  ///< what the printer says
-    int signals;      ///< a signalfd: something to read there is the wish to end the job
+    int wake;         ///< has something to read once the job is to end
+    const volatile std::sig_atomic_t* isCancelled;  ///< not 0 from then on
 };
 
 /// The job of a port monitor: copies the stream, asks between commands, reports the answers.
@@ -43,11 +45,11 @@ private:
     struct Ready {
         bool input;
         bool backChannel;
-        bool signals;
         bool outputGone;
     };
 
     bool step();
+    [[nodiscard]] bool mayReadOn() const;
     [[nodiscard]] bool isDone();
     void work();
     Ready wait();

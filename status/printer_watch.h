@@ -52,6 +52,8 @@ public:
     /// The backend has taken all that was written, the question as well: from here on silence
     /// counts. Waiting for a printer that is switched off is the backend's business.
     void taken(Time now);
+    /// Whether a question has no answer yet that will be listened to.
+    [[nodiscard]] bool isAwaiting() const { return isAwaiting_ && phase_ != Phase::Mute; }
     /// Whether taken() is waited for.
     [[nodiscard]] bool waitsForBackend() const { return isAwaiting_ && !takenAt_; }
 

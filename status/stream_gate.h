@@ -40,6 +40,10 @@ public:
     [[nodiscard]] bool isBetweenCommands() const {
         return !isBegun_ && (!isInProgram_ || isDrained());
     }
+    /// Whether everything that is there has been handed on, and it ends inside data.
+    [[nodiscard]] bool isInData() const {
+        return isBegun_ && kind_ == Kind::Data && start_ == filled_ && !guard_.isBehindData();
+    }
     /// Number of whole PRINTs that have been handed on.
     [[nodiscard]] std::uint64_t prints() const { return prints_; }
     /// Whether the stream has ended and all of it has been handed on.
