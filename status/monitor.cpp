@@ -1,6 +1,5 @@
 #include "status/monitor.h"
 
-#include <fcntl.h>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
@@ -9,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <cstring>
 #include <utility>
 
@@ -38,14 +38,13 @@ bool isForLater() {
     return errno == EAGAIN || errno == EINTR;
 }
 
-bool isReadable(int descriptor) {
-    pollfd look{descriptor, POLLIN, 0};
-    return poll(&look, 1, 0) > 0 && (look.revents & POLLIN) != 0;
+bool isReadyFor(short event, int descriptor) {
+    pollfd look{descriptor, event, 0};
+    return poll(&look, 1, 0) > 0 && (look.revents & event) != 0;
 }
 
 }  // namespace
 
-// The output is shared with nobody who writes, so that nobody sees that it does not block.
 Monitor::Monitor(const MonitorStreams& streams, StateReport& report, const MuteMemory& memory,
                  StateReport::Line line)
     : streams_(streams),
@@ -53,14 +52,7 @@ Monitor::Monitor(const MonitorStreams& streams, StateReport& report, const MuteM
       memory_(memory),
       line_(std::move(line)),
       watch_(memory.isMute()),
-      outputFlags_(fcntl(streams.output, F_GETFL)),
-      isPipe_(isPipe(streams.output)) {
-    fcntl(streams.output, F_SETFL, outputFlags_ | O_NONBLOCK);
-}
-
-Monitor::~Monitor() {
-    fcntl(streams_.output, F_SETFL, outputFlags_);
-}
+      isPipe_(isPipe(streams.output)) {}
 
 Monitor::End Monitor::run() {
     while (step()) {
@@ -234,22 +226,19 @@ bool Monitor::ask() {
     if (isCancelled_ || !gate_.isBetweenCommands() || !watch_.wantsToAsk(now())) {
         return false;
     }
-    while (hasBackChannel_ && isReadable(streams_.backChannel)) {
+    while (hasBackChannel_ && isReadyFor(POLLIN, streams_.backChannel)) {
         readAnswers();
     }
     if (!hasBackChannel_ || !watch_.wantsToAsk(now())) {
         return false;
     }
-    std::span<const std::uint8_t> rest(question);
-    const std::size_t written = writeSome(rest);
-    if (written == 0) {
+    if (!isReadyFor(POLLOUT | POLLERR, streams_.output)) {
+        isBlocked_ = true;
         return false;
     }
-    // Pipes take three bytes whole or not at all; on anything else it is worth a moment.
-    for (rest = rest.subspan(written); !rest.empty() && !hasFailed_;) {
-        pollfd output{streams_.output, POLLOUT, 0};
-        poll(&output, 1, -1);
-        rest = rest.subspan(writeSome(rest));
+    // Where there is room, there is room for three bytes.
+    if (writeSome(question) < question.size()) {
+        return false;
     }
     watch_.asked(now());
     return true;
@@ -260,7 +249,7 @@ bool Monitor::copy() {
         return false;
     }
     noteCancelling();
-    const auto bytes = gate_.next(watch_.hold());
+    const auto bytes = gate_.next(watch_.hold(), !watch_.isMute());
     const std::size_t written = bytes.empty() ? 0 : writeSome(bytes);
     gate_.handedOn(written);
     watch_.printed(gate_.prints());
@@ -281,10 +270,18 @@ void Monitor::endLineOfData() {
     }
 }
 
+// While an answer is due, no more is written at a time than a pipe takes without blocking. While
+// none is, there is nothing to do but to write; a signal ends the wait.
 std::size_t Monitor::writeSome(std::span<const std::uint8_t> bytes) {
+    if (watch_.isAwaiting()) {
+        if (!isReadyFor(POLLOUT | POLLERR, streams_.output)) {
+            isBlocked_ = true;
+            return 0;
+        }
+        bytes = bytes.first(std::min<std::size_t>(bytes.size(), PIPE_BUF));
+    }
     const ssize_t count = write(streams_.output, bytes.data(), bytes.size());
     if (count >= 0) {
-        isBlocked_ = static_cast<std::size_t>(count) < bytes.size();
         return static_cast<std::size_t>(count);
     }
     if (isForLater()) {

@@ -33,9 +33,6 @@ public:
 
     Monitor(const MonitorStreams& streams, StateReport& report, const MuteMemory& memory,
             StateReport::Line line);
-    ~Monitor();
-    Monitor(const Monitor&) = delete;
-    Monitor& operator=(const Monitor&) = delete;
 
     End run();
 
@@ -71,7 +68,6 @@ private:
     StateReport::Line line_;
     StreamGate gate_;
     PrinterWatch watch_;
-    int outputFlags_;
     bool isPipe_;
     bool hasBackChannel_ = true;
     bool hasInput_ = true;

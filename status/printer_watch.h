@@ -52,8 +52,10 @@ public:
     /// The backend has taken all that was written, the question as well: from here on silence
     /// counts. Waiting for a printer that is switched off is the backend's business.
     void taken(Time now);
-    /// Whether a question has no answer yet that will be listened to.
-    [[nodiscard]] bool isAwaiting() const { return isAwaiting_ && phase_ != Phase::Mute; }
+    /// Whether an answer is due that changes what is done.
+    [[nodiscard]] bool isAwaiting() const {
+        return isAwaiting_ && phase_ != Phase::Mute && !(phase_ == Phase::First && isKnownAsMute_);
+    }
     /// Whether taken() is waited for.
     [[nodiscard]] bool waitsForBackend() const { return isAwaiting_ && !takenAt_; }
 

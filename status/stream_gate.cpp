@@ -11,8 +11,13 @@ constexpr std::size_t bufferBytes = 256 * 1024;
 // As much as may be moved to the front for the sake of a longer read.
 constexpr std::size_t shortRest = 4096;
 
-bool endsLine(std::uint8_t byte) {
-    return byte == '\n' || byte == '\r';
+bool isOfLabel(PieceKind kind) {
+    return kind == PieceKind::Print || kind == PieceKind::DataHead;
+}
+
+bool isWhole(PieceKind kind, const StreamGuard& guard) {
+    return kind == PieceKind::Line || kind == PieceKind::Print ||
+           (kind == PieceKind::Data && !guard.isInData());
 }
 
 }  // namespace
@@ -24,99 +29,95 @@ std::span<std::uint8_t> StreamGate::room() {
     return std::span(buffer_).subspan(filled_);
 }
 
-// Where a line is under way, cancel has to see the byte before.
+// What has been handed on of a segment stays until all of it has: cancel reads it again.
 void StreamGate::compact() {
-    const std::size_t rest = filled_ - start_;
-    const bool isInLines = isBegun_ && (kind_ == Kind::Lines || kind_ == Kind::Print);
-    const bool isWorthIt = rest <= shortRest || filled_ == buffer_.size();
-    if (start_ == 0 || !isWorthIt || isInLines) {
+    if (isBegun_ && start_ < segmentEnd_) {
         return;
     }
+    const std::size_t rest = filled_ - start_;
+    if (start_ == 0 || (rest > shortRest && filled_ < buffer_.size())) {
+        return;
+    }
+    takeBack();
     std::memmove(buffer_.data(), buffer_.data() + start_, rest);
-    segmentEnd_ -= start_;
-    scanned_ -= start_;
+    segmentStart_ = start_ = segmentEnd_ = 0;
     filled_ = rest;
-    nextEnd_ = hasNext_ ? nextEnd_ - start_ : 0;
-    start_ = 0;
 }
 
-std::span<const std::uint8_t> StreamGate::next(Hold hold) {
-    if (start_ == segmentEnd_) {
-        scan();
+// Until something of it has been handed on, a segment may become another one.
+void StreamGate::takeBack() {
+    if (!isBegun_) {
+        guard_ = startGuard_;
+        segmentEnd_ = start_;
+        isInLongLine_ = false;
     }
-    if (!isBegun_ && (isCancelled_ || isHeld(hold))) {
+}
+
+std::span<const std::uint8_t> StreamGate::next(Hold hold, bool endsBehindPrints) {
+    takeBack();
+    if (hold != Hold::Nothing) {
+        cutBehindCommand();
+    }
+    if (start_ == segmentEnd_) {
+        scan(hold, endsBehindPrints);
+    }
+    if (!isBegun_ && (isCancelled_ || hold == Hold::Everything)) {
         return {};
     }
     return std::span(buffer_).subspan(start_, segmentEnd_ - start_);
 }
 
-void StreamGate::scan() {
-    if (hasNext_) {
-        hasNext_ = false;
-        kind_ = nextKind_;
-        segmentEnd_ = nextEnd_;
-        if (kind_ != Kind::Data) {
+void StreamGate::scan(Hold hold, bool endsBehindPrints) {
+    startGuard_ = guard_;
+    segmentStart_ = start_;
+    segmentPrints_ = 0;
+    StreamGuard ahead = guard_;
+    for (std::size_t at = start_; at < filled_;) {
+        const Piece piece = ahead.take(std::span(buffer_).subspan(at, filled_ - at));
+        at += piece.bytes;
+        if (piece.kind == PieceKind::Part) {
+            takeLongLine(ahead);
+            takeLastLine(hold, ahead);
             return;
         }
-    }
-    bool goesOn = true;
-    while (goesOn && scanned_ < filled_) {
-        const Piece piece = guard_.take(std::span(buffer_).subspan(scanned_, filled_ - scanned_));
-        goesOn = takePiece(piece.bytes, piece.kind);
-    }
-    if (start_ == segmentEnd_) {
-        takeLongLine();
-        finishLastLine();
+        const bool isPrint = piece.kind == PieceKind::Print;
+        if (!takePiece(hold, piece, ahead) || (isPrint && endsBehindPrints)) {
+            return;
+        }
     }
 }
 
 // Whether the segment may become longer.
-bool StreamGate::takePiece(std::size_t bytes, PieceKind kind) {
-    scanned_ += bytes;
-    switch (kind) {
-        case PieceKind::Part:
-            return false;
-        case PieceKind::Line:
-            kind_ = Kind::Lines;
-            segmentEnd_ = scanned_;
-            return !isBegun_;
-        case PieceKind::Print:
-            return takeLabelPart(Kind::Print);
-        case PieceKind::DataHead:
-            return takeLabelPart(Kind::Data);
-        case PieceKind::Data:
-            isBegun_ = isBegun_ && bytes > 0;
-            segmentEnd_ = scanned_;
-            return start_ == segmentEnd_;
-    }
-    return false;
-}
-
-bool StreamGate::takeLabelPart(Kind kind) {
-    if (start_ < segmentEnd_) {
-        hasNext_ = true;
-        nextKind_ = kind;
-        nextEnd_ = scanned_;
+bool StreamGate::takePiece(Hold hold, const Piece& piece, const StreamGuard& ahead) {
+    if (hold == Hold::Label && isOfLabel(piece.kind)) {
         return false;
     }
-    kind_ = kind;
-    segmentEnd_ = scanned_;
-    return kind == Kind::Data;
+    guard_ = ahead;
+    segmentEnd_ += piece.bytes;
+    segmentPrints_ += piece.kind == PieceKind::Print ? 1 : 0;
+    if (!isBegun_ || !isWhole(piece.kind, guard_)) {
+        return true;
+    }
+    // What was under way has come to its end.
+    isInLongLine_ = false;
+    isBegun_ = start_ < segmentEnd_;
+    return hold == Hold::Nothing && !isCancelled_;
 }
 
 // A line that the buffer cannot hold goes on as it comes.
-void StreamGate::takeLongLine() {
-    const bool isUnderWay = isBegun_ && kind_ == Kind::LongLine;
-    const bool isFull = start_ == 0 && filled_ == buffer_.size();
-    if ((isUnderWay || isFull) && scanned_ > start_) {
-        kind_ = Kind::LongLine;
-        segmentEnd_ = scanned_;
+void StreamGate::takeLongLine(const StreamGuard& ahead) {
+    const bool isFull = start_ == 0 && filled_ == buffer_.size() && segmentEnd_ == 0;
+    if (isInLongLine_ || isFull) {
+        isInLongLine_ = true;
+        guard_ = ahead;
+        segmentEnd_ = filled_;
     }
 }
 
-void StreamGate::finishLastLine() {
-    if (hasEnded_ && start_ == segmentEnd_ && segmentEnd_ < filled_) {
-        takePiece(0, guard_.finish());
+void StreamGate::takeLastLine(Hold hold, StreamGuard ahead) {
+    if (hasEnded_ && segmentEnd_ < filled_) {
+        const PieceKind kind = ahead.finish();
+        takePiece(hold, {filled_ - segmentEnd_, kind}, ahead);
     }
 }
 
@@ -132,33 +133,47 @@ void StreamGate::handedOn(std::size_t bytes) {
 }
 
 void StreamGate::segmentHandedOn() {
-    isBegun_ = kind_ == Kind::LongLine || (kind_ == Kind::Data && guard_.isInData());
+    isBegun_ = isInLongLine_ || guard_.isInData();
     isInProgram_ = guard_.isInProgram();
-    prints_ += kind_ == Kind::Print ? 1 : 0;
+    prints_ += segmentPrints_;
+    startGuard_ = guard_;
+    segmentStart_ = start_;
+    segmentPrints_ = 0;
+    isCut_ = false;
 }
 
-bool StreamGate::isHeld(Hold hold) const {
-    return hold == Hold::Everything ||
-           (hold == Hold::Label && (kind_ == Kind::Print || kind_ == Kind::Data));
+bool StreamGate::isInData() const {
+    return isBegun_ && start_ == filled_ && guard_.isInData() && !guard_.isBehindData();
 }
 
-// Of lines, only the one that is under way comes to its end.
 void StreamGate::cancel() {
     isCancelled_ = true;
-    if (!isBegun_ || kind_ == Kind::Data || kind_ == Kind::LongLine) {
+    cutBehindCommand();
+}
+
+// Reads the segment again for the command that is under way: only that comes to its end.
+void StreamGate::cutBehindCommand() {
+    if (!isBegun_ || isInLongLine_ || start_ == segmentEnd_ || isCut_) {
         return;
     }
-    std::size_t end = start_ - 1;
-    while (end < segmentEnd_ && !endsLine(buffer_[end])) {
-        ++end;
+    isCut_ = true;
+    guard_ = startGuard_;
+    segmentEnd_ = segmentStart_;
+    segmentPrints_ = 0;
+    for (bool goesOn = true; goesOn && segmentEnd_ < filled_;) {
+        const Piece piece =
+            guard_.take(std::span(buffer_).subspan(segmentEnd_, filled_ - segmentEnd_));
+        segmentEnd_ += piece.bytes;
+        segmentPrints_ += piece.kind == PieceKind::Print ? 1 : 0;
+        goesOn = segmentEnd_ < start_ || !isWhole(piece.kind, guard_);
     }
-    const bool isHalf = end + 1 < segmentEnd_ && buffer_[end] == '\r' && buffer_[end + 1] == '\n';
-    segmentEnd_ = std::min(segmentEnd_, end + (isHalf ? 2 : 1));
-    isBegun_ = start_ < segmentEnd_;
+    if (start_ == segmentEnd_) {
+        segmentHandedOn();
+    }
 }
 
 bool StreamGate::needsLineEnd() const {
-    return isBegun_ && kind_ == Kind::Data && start_ == scanned_ && guard_.isBehindData();
+    return isBegun_ && start_ == filled_ && guard_.isBehindData();
 }
 
 }  // namespace status

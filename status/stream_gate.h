@@ -30,8 +30,9 @@ public:
     /// The stream has ended: a last line without its end counts as whole.
     void end() { hasEnded_ = true; }
 
-    /// What is to be handed on now; empty when nothing may be, or nothing is there.
-    std::span<const std::uint8_t> next(Hold hold);
+    /// What is to be handed on now; empty when nothing may be, or nothing is there. Ends behind a
+    /// PRINT where a question may be due there.
+    std::span<const std::uint8_t> next(Hold hold, bool endsBehindPrints = true);
     /// So many bytes of it have been handed on.
     void handedOn(std::size_t bytes);
 
@@ -41,9 +42,7 @@ public:
         return !isBegun_ && (!isInProgram_ || isDrained());
     }
     /// Whether everything that is there has been handed on, and it ends inside data.
-    [[nodiscard]] bool isInData() const {
-        return isBegun_ && kind_ == Kind::Data && start_ == filled_ && !guard_.isBehindData();
-    }
+    [[nodiscard]] bool isInData() const;
     /// Number of whole PRINTs that have been handed on.
     [[nodiscard]] std::uint64_t prints() const { return prints_; }
     /// Whether the stream has ended and all of it has been handed on.
@@ -52,7 +51,7 @@ public:
     /// From now on nothing is handed on but the rest of the command that is under way.
     void cancel();
     /// After cancel: whether the printer waits for no more.
-    [[nodiscard]] bool isFinished() const { return !isBegun_ || kind_ == Kind::LongLine; }
+    [[nodiscard]] bool isFinished() const { return !isBegun_ || isInLongLine_; }
     /// Whether of the command under way at most (a half of) the line end behind its data is
     /// missing.
     [[nodiscard]] bool needsLineEnd() const;
@@ -60,31 +59,30 @@ public:
     void endData() { isBegun_ = false; }
 
 private:
-    enum class Kind { Lines, Print, Data, LongLine };
-
-    void scan();
-    bool takePiece(std::size_t bytes, PieceKind kind);
-    bool takeLabelPart(Kind kind);
-    void takeLongLine();
-    void finishLastLine();
+    void scan(Hold hold, bool endsBehindPrints);
+    bool takePiece(Hold hold, const Piece& piece, const StreamGuard& ahead);
+    void takeLongLine(const StreamGuard& ahead);
+    void takeLastLine(Hold hold, StreamGuard ahead);
+    void takeBack();
+    void cutBehindCommand();
     void segmentHandedOn();
     void compact();
-    [[nodiscard]] bool isHeld(Hold hold) const;
 
-    StreamGuard guard_;
     std::vector<std::uint8_t> buffer_;
-    // start_ <= segmentEnd_ <= nextEnd_ <= scanned_ <= filled_: what is handed on now, what comes
-    // next where that is known, what the guard has seen, what is there.
+    // The segment is what is handed on at a time: segmentStart_ <= start_ <= segmentEnd_ <=
+    // filled_, of which what lies before start_ has been handed on.
+    std::size_t segmentStart_ = 0;
     std::size_t start_ = 0;
     std::size_t segmentEnd_ = 0;
-    std::size_t nextEnd_ = 0;
-    std::size_t scanned_ = 0;
     std::size_t filled_ = 0;
-    Kind kind_ = Kind::Lines;
-    Kind nextKind_ = Kind::Lines;
-    bool hasNext_ = false;
-    /// A command has been handed on in part.
+    /// At the start of the segment, and at its end.
+    StreamGuard startGuard_;
+    StreamGuard guard_;
+    std::uint64_t segmentPrints_ = 0;
+    /// A command has been handed on in part, or the segment has.
     bool isBegun_ = false;
+    bool isInLongLine_ = false;
+    bool isCut_ = false;
     bool isInProgram_ = false;
     bool hasEnded_ = false;
     bool isCancelled_ = false;

@@ -100,7 +100,7 @@ private:
         for (;;) {
             const Hold hold = watch_.hold();
             const bool isHeld = gate_.isBetweenCommands() && hold == Hold::Everything;
-            const auto bytes = gate_.next(hold);
+            const auto bytes = gate_.next(hold, !watch_.isMute());
             require(bytes.empty() || !isHeld);
             const auto taken = bytes.first(std::min(bytes.size(), input_.takenBytes));
             out_.insert(out_.end(), taken.begin(), taken.end());
