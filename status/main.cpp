@@ -1,13 +1,16 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <string>
+#include <string_view>
 
 #include "status/monitor.h"
 #include "status/mute_memory.h"
@@ -18,6 +21,7 @@ namespace {
 // Where the scheduler puts what the backend reads from the printer.
 constexpr int backChannel = 3;
 constexpr int fewestArguments = 6;
+constexpr int copiesArgument = 4;
 
 // One write, so that lines of a job's programs stay whole.
 void writeLine(const std::string& text) {
@@ -92,12 +96,23 @@ int takeSignals() {
     return ends[0];
 }
 
-int monitor(int input, int wake) {
+// A job without any filter, which a file of commands is, comes as a file: backends and monitors
+// make its copies themselves. The filters have made those of a stream.
+int copiesOf(int argc, char* argv[]) {
+    int copies = 1;
+    if (argc > fewestArguments) {
+        const std::string_view text = argv[copiesArgument];
+        std::from_chars(text.data(), text.data() + text.size(), copies);
+    }
+    return std::max(1, copies);
+}
+
+int monitor(int input, int wake, int copies) {
     status::StateReport report(writeLine, variable("PRINTER_STATE_REASONS"));
     const status::MuteMemory memory(variable("CUPS_CACHEDIR"), variable("PRINTER"),
                                     variable("DEVICE_URI"));
-    status::Monitor job({input, STDOUT_FILENO, backChannel, wake, &sCancelled}, report, memory,
-                        writeLine);
+    status::Monitor job({input, STDOUT_FILENO, backChannel, wake, &sCancelled, copies}, report,
+                        memory, writeLine);
     return job.run() == status::Monitor::End::Well ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
@@ -105,8 +120,8 @@ int monitor(int input, int wake) {
 
 /// A port monitor of CUPS: `tsplstatus job_id user title copies options [file]`. Copies the TSPL
 /// stream from the file or standard input to standard output, asks the printer between commands how
-/// it is, and reads its answers from descriptor 3. Status 0 when all labels were taken, and for a
-/// job that was cancelled; 1 for any failure.
+/// it is, and reads its answers from descriptor 3. A file is copied `copies` times. Status 0 when
+/// all labels were taken, and for a job that was cancelled; 1 for any failure.
 int main(int argc, char* argv[]) {
     occupyStreams();
     if (argc < fewestArguments) {
@@ -121,7 +136,7 @@ int main(int argc, char* argv[]) {
             writeLine("ERROR: Unable to open the stream: " + std::string(std::strerror(errno)));
             return EXIT_FAILURE;
         }
-        return monitor(input, wake);
+        return monitor(input, wake, copiesOf(argc, argv));
     } catch (const std::exception& problem) {
         writeLine(std::string("ERROR: The job ends: ") + problem.what());
     }

@@ -168,6 +168,8 @@ void Monitor::readStream() {
     const ssize_t count = read(streams_.input, room.data(), room.size());
     if (count > 0) {
         gate_.filled(static_cast<std::size_t>(count));
+    } else if (count == 0 && startNextCopy()) {
+        return;
     } else if (count == 0) {
         hasInput_ = false;
         gate_.end();
@@ -175,6 +177,10 @@ void Monitor::readStream() {
         hasInput_ = false;
         fail(std::string("Unable to read the stream: ") + std::strerror(errno));
     }
+}
+
+bool Monitor::startNextCopy() {
+    return streams_.copies-- > 1 && lseek(streams_.input, 0, SEEK_SET) == 0;
 }
 
 void Monitor::readAnswers() {

@@ -23,6 +23,7 @@ struct MonitorStreams {
     int backChannel;  ///< what the printer says
     int wake;         ///< has something to read once the job is to end
     const volatile std::sig_atomic_t* isCancelled;  ///< not 0 from then on
+    int copies = 1;  ///< of the input, which is a file if there are more than one
 };
 
 /// The job of a port monitor: copies the stream, asks between commands, reports the answers.
@@ -53,6 +54,7 @@ private:
     [[nodiscard]] int timeout() const;
     void noteCancelling();
     void readStream();
+    bool startNextCopy();
     void readAnswers();
     void tell(PrinterWatch::Event event);
     void noteWhatIsTaken();
