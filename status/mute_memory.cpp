@@ -13,7 +13,7 @@
 namespace status {
 namespace {
 
-constexpr std::time_t aDay = 24 * 60 * 60;
+constexpr std::time_t aDay = 86400;
 
 // FNV-1a, 64 bits (Fowler, Noll, Vo): a device's address may hold a password, and a queue's name
 // anything but a slash.
