@@ -43,7 +43,8 @@ void addOnce(std::vector<std::string>& list, const char* text) {
 }  // namespace
 
 bool StatusByte::isPossible() const {
-    return !isPrinting() || (bits_ & (headOpen | coverOpen)) == 0;
+    constexpr std::uint8_t idleLine = 0xff;
+    return bits_ != idleLine;
 }
 
 bool StatusByte::isPrinting() const {

@@ -23,8 +23,8 @@ public:
 
     [[nodiscard]] constexpr std::uint8_t bits() const { return bits_; }
 
-    /// Whether a printer can be in such a state: none prints with its head or its cover open. So
-    /// 255, which idle lines read as, says nothing.
+    /// Whether it is an answer at all: idle lines read as 255. Any other is taken at its word; some
+    /// printers still say that they are printing when their head has been opened meanwhile.
     [[nodiscard]] bool isPossible() const;
 
     [[nodiscard]] bool isReady() const { return bits_ == 0; }
