@@ -7,7 +7,7 @@ namespace status {
 namespace {
 
 // Some pipes full: reading goes on while a slow backend takes what there is.
-constexpr std::size_t bufferBytes = 256 * 1024;
+constexpr std::size_t bufferBytes = std::size_t{256} * 1024;
 // As much as may be moved to the front for the sake of a longer read.
 constexpr std::size_t shortRest = 4096;
 
