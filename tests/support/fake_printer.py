@@ -9,6 +9,7 @@ not followed by a line end, is a fault: it is printed at once and raised by fini
         printer.finish()
         printer.stream, printer.labels, printer.questions
 """
+import math
 import os
 import re
 import socket
@@ -34,14 +35,17 @@ class Ready:
 
 
 class For(Ready):
-    """A status for some seconds from the start of a label on (from 1), then ready."""
+    """A status from the start of a label on (from 1), then ready: some seconds long, or until end()."""
 
-    def __init__(self, status, seconds=2, label=1):
-        self.status, self.seconds, self.label = status, seconds, label
+    def __init__(self, status, seconds=math.inf, label=1):
+        self.status, self.seconds, self.label, self.has_ended = status, seconds, label, False
+
+    def end(self):
+        self.has_ended = True
 
     def stands(self, printer):
         since = printer.started.get(self.label) if self.label > 1 else printer.asked_first
-        return since is not None and time.monotonic() < since + self.seconds
+        return not self.has_ended and since is not None and time.monotonic() < since + self.seconds
 
     def answer(self, printer):
         return bytes([self.status if self.stands(printer) else 0])
