@@ -53,7 +53,11 @@ private:
     Ready wait();
     [[nodiscard]] int timeout() const;
     void noteCancelling();
+    void takeStream();
+    [[nodiscard]] bool mayPassData() const;
     void readStream();
+    void endInput();
+    void passData();
     bool startNextCopy();
     void readAnswers();
     void tell(PrinterWatch::Event event);
@@ -71,8 +75,12 @@ private:
     StreamGate gate_;
     PrinterWatch watch_;
     bool isPipe_;
+    /// The stream and the output are pipes, and data can go from one to the other.
+    bool canSplice_;
     bool hasBackChannel_ = true;
     bool hasInput_ = true;
+    /// A read that should have waited did not.
+    bool isInputLate_ = false;
     /// The output takes no more for the moment.
     bool isBlocked_ = false;
     bool isCancelled_ = false;

@@ -6,8 +6,8 @@
 namespace status {
 namespace {
 
-// Some pipes full: reading goes on while a slow backend takes what there is.
-constexpr std::size_t bufferBytes = std::size_t{256} * 1024;
+// A pipe full: reading goes on while a slow backend takes what there is.
+constexpr std::size_t bufferBytes = std::size_t{64} * 1024;
 // As much as may be moved to the front for the sake of a longer read.
 constexpr std::size_t shortRest = 4096;
 
@@ -144,6 +144,10 @@ void StreamGate::segmentHandedOn() {
 
 bool StreamGate::isInData() const {
     return isBegun_ && start_ == filled_ && guard_.isInData() && !guard_.isBehindData();
+}
+
+void StreamGate::passed(std::uint64_t bytes) {
+    guard_.pass(bytes);
 }
 
 void StreamGate::cancel() {

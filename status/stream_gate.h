@@ -43,6 +43,11 @@ public:
     }
     /// Whether everything that is there has been handed on, and it ends inside data.
     [[nodiscard]] bool isInData() const;
+    /// While isInData: bytes of them that are to come, which may as well be handed on past the
+    /// gate.
+    [[nodiscard]] std::uint64_t dataLeft() const { return isInData() ? guard_.dataLeft() : 0; }
+    /// So many of them have been handed on past the gate.
+    void passed(std::uint64_t bytes);
     /// Number of whole PRINTs that have been handed on.
     [[nodiscard]] std::uint64_t prints() const { return prints_; }
     /// Whether the stream has ended and all of it has been handed on.

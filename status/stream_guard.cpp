@@ -111,6 +111,13 @@ PieceKind StreamGuard::finish() {
     return isInData() ? PieceKind::Data : endLine();
 }
 
+void StreamGuard::pass(std::uint64_t bytes) {
+    dataLeft_ -= std::min(bytes, dataLeft());
+    if (state_ == State::Data && dataLeft_ == 0) {
+        state_ = State::DataEnd;
+    }
+}
+
 bool StreamGuard::isBehindData() const {
     return state_ == State::DataEnd || state_ == State::DataReturn;
 }

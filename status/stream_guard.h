@@ -46,6 +46,11 @@ public:
     /// Takes the end of the stream: what the line under way was, as if its end had come.
     PieceKind finish();
 
+    /// Bytes of data that are to come; they need not be taken, see pass().
+    [[nodiscard]] std::uint64_t dataLeft() const { return state_ == State::Data ? dataLeft_ : 0; }
+    /// So many of them have gone another way.
+    void pass(std::uint64_t bytes);
+
     /// Whether a command has ended where the last piece did.
     [[nodiscard]] bool isBetweenCommands() const { return state_ == State::LineStart; }
     /// Whether a program is being stored, whose lines are no commands yet.

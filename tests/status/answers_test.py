@@ -5,7 +5,7 @@ import time
 
 from fake_printer import (COVER_OPEN, HEAD_OPEN, JAM, NO_LABELS, NO_RIBBON, OTHER, PAUSED, PRINTING,
                           For, Late, Printing, Ready, Says, Slow)
-from monitor_run import SLACK, Run, all_printed, golden, labels, printed
+from monitor_run import SLACK, Run, all_printed, golden, labels, printed, wait_for
 
 REASONS = {HEAD_OPEN: 'cover-open-error', JAM: 'media-jam-error', NO_LABELS: 'media-empty-error',
            NO_RIBBON: 'marker-supply-empty-error', PAUSED: 'paused', COVER_OPEN: 'cover-open-error',
@@ -185,6 +185,25 @@ def a_slow_printer_gets_everything_and_the_monitor_waits():
     job = printed(stream, Slow(rate=2500))
     assert job.took > 0.8 * len(stream) / 2500, job.took
     assert job.reasons() == [], job.said()
+
+
+class SlowBusyAndLate(Slow):
+    """Its answers come so late that the next question is due at once, in front of the next label."""
+    delay = 0.8
+
+    def answer(self, printer):
+        return bytes([0 if len(printer.labels) == 2 else PRINTING])
+
+
+def waiting_for_a_slow_printer_costs_nothing():
+    """Also while it is printing, and data pass that do not wait for the answer to a question."""
+    job = Run(labels(2, size=300000), SlowBusyAndLate(rate=200000))
+    wait_for(lambda: 2 in job.printer.started)
+    before = job.processor_time()
+    time.sleep(0.7)
+    assert len(job.printer.questions) == len(job.printer.answers) + 1, 'no answer is due'
+    assert job.processor_time() - before < 0.1, job.processor_time() - before
+    job.finish().assert_printed()
 
 
 def a_printer_that_takes_a_byte_a_second_is_waited_for():

@@ -40,13 +40,14 @@ def cancel(job, after):
 
 
 def cancelled_jobs_end_at_once_and_leave_no_reason():
-    """50 moments, with printers in every state. Of a busy machine two may be late, by little."""
+    """50 moments, with printers in every state, and bitmaps that go through whole and from pipe to pipe.
+    Of a busy machine two may be late, by little."""
     dice = random.Random(5)
     kinds = (Ready, lambda: For(NO_LABELS, 5), lambda: For(HEAD_OPEN, 5, label=2), lambda: For(PAUSED, 0.4),
-             lambda: Slow(4000), lambda: Printing(0.3), Mute, lambda: Late(0.4), lambda: Slow(20000))
+             lambda: Slow(40000), lambda: Printing(0.3), Mute, lambda: Late(0.4), lambda: Slow(200000))
     late = 0
     for number in range(0, 50, 5):
-        jobs = [Run(labels(4, size=900), kinds[(number + i) % len(kinds)]()) for i in range(5)]
+        jobs = [Run(labels(4, size=(900, 50000)[i % 2]), kinds[(number + i) % len(kinds)]()) for i in range(5)]
         moments = sorted((dice.uniform(0.01, 1.1), i) for i in range(5))
         told = {i: cancel(jobs[i], moment) for moment, i in moments}
         for i, job in enumerate(jobs):
@@ -66,36 +67,39 @@ def cancelled_jobs_end_at_once_and_leave_no_reason():
 
 def a_bitmap_under_way_is_completed_and_not_printed():
     """The filter's own: the rest of the bitmap comes after the signal."""
-    stream = labels(2, size=2000)
-    middle = stream.index(b'BITMAP') + 1000
-    job = Run(stream, feed=lambda: None)
-    job.process.stdin.write(stream[:middle])
-    job.process.stdin.flush()
-    wait_for(lambda: len(job.printer.stream) == middle)
-    job.process.send_signal(signal.SIGTERM)
-    time.sleep(0.5)
-    assert job.process.poll() is None, 'it waits for the rest of the bitmap'
-    told = time.monotonic()
-    try:
-        job.process.stdin.write(stream[middle:])
-        job.process.stdin.close()
-    except BrokenPipeError:
-        pass
-    assert_cancelled(job, told)
-    assert len(job.printer.started) == 1 and job.printer.labels == []
+    for size in 2000, 200000:
+        stream = labels(2, size=size)
+        middle = stream.index(b'BITMAP') + size // 2
+        job = Run(stream, feed=lambda: None)
+        job.process.stdin.write(stream[:middle])
+        job.process.stdin.flush()
+        wait_for(lambda: len(job.printer.stream) == middle)
+        job.process.send_signal(signal.SIGTERM)
+        time.sleep(0.5)
+        assert job.process.poll() is None, 'it waits for the rest of the bitmap'
+        told = time.monotonic()
+        try:
+            job.process.stdin.write(stream[middle:])
+            job.process.stdin.close()
+        except BrokenPipeError:
+            pass
+        assert_cancelled(job, told)
+        assert len(job.printer.started) == 1 and job.printer.labels == []
 
 
 def a_filter_that_ends_within_a_bitmap_is_not_waited_for():
-    stream = labels(1, size=2000)[:-500]
-    job = Run(stream, feed=lambda: None)
-    job.process.stdin.write(stream)
-    job.process.stdin.flush()
-    wait_for(lambda: len(job.printer.stream) == len(stream))
-    told = time.monotonic()
-    job.process.send_signal(signal.SIGTERM)
-    job.process.stdin.close()
-    job.finish(5)
-    assert job.ended - told < AT_ONCE and bytes(job.printer.stream) == stream
+    for size, is_cancelled in (2000, True), (200000, True), (200000, False):
+        stream = labels(1, size=size)[:-size // 3]
+        job = Run(stream, feed=lambda: None)
+        job.process.stdin.write(stream)
+        job.process.stdin.flush()
+        wait_for(lambda: len(job.printer.stream) == len(stream))
+        told = time.monotonic()
+        if is_cancelled:
+            job.process.send_signal(signal.SIGTERM)
+        job.process.stdin.close()
+        job.finish(5)
+        assert job.ended - told < AT_ONCE and bytes(job.printer.stream) == stream
 
 
 def signals_that_come_twice_change_nothing():
@@ -128,8 +132,8 @@ def a_cancel_in_a_pipe_that_nobody_reads_ends_when_it_is_read():
 
 def a_printer_that_goes_away_fails_the_job_and_leaves_no_reason():
     for behaviour in (Closing(question=1), Closing(labels=1), Closing(question=3, status=NO_LABELS),
-                      Closing(question=1, status=HEAD_OPEN)):
-        job = run(labels(40, size=9000), behaviour)
+                      Closing(question=1, status=HEAD_OPEN), Closing(labels=2)):
+        job = run(labels(40, size=90000 if behaviour.labels else 9000), behaviour)
         assert job.status == 1, (job.status, job.said())
         assert job.errors(), job.said()
         assert job.sent.startswith(bytes(job.printer.stream + job.printer.reader.rest))

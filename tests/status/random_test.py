@@ -24,9 +24,9 @@ class Whimsical(Ready):
         return b'\0' if choice < 0.9 else b'\0\r\n'
 
 
-def behaviour(dice):
+def behaviour(dice, size):
     kinds = (Ready, lambda: Whimsical(dice), lambda: For(1 << dice.choice([0, 1, 2, 3, 4, 6, 7]), dice.uniform(0, 0.6),
-             label=dice.choice([1, 2])), lambda: Late(dice.uniform(0, 0.3)), lambda: Slow(dice.choice([5000, 50000])),
+             label=dice.choice([1, 2])), lambda: Late(dice.uniform(0, 0.3)), lambda: Slow(dice.choice([5000, 50000]) if size < 60000 else 1000000),
              lambda: Printing(dice.uniform(0, 0.2)), lambda: Says(b'\0' * dice.randrange(1, 9)), lambda: Whimsical(dice))
     return dice.choice(kinds)()
 
@@ -34,9 +34,10 @@ def behaviour(dice):
 def one(seed, failures):
     dice = random.Random(seed)
     count = dice.randrange(1, 5)
-    stream = labels(count, size=dice.choice([10, 200, 1500]), dice=dice)
+    size = dice.choice([10, 200, 1500, 60000, 300000])
+    stream = labels(count, size=size, dice=dice)
     try:
-        job = Run(stream, behaviour(dice)).finish().assert_printed()
+        job = Run(stream, behaviour(dice, size)).finish().assert_printed()
         numbers = [label.number for label in job.printer.labels]
         assert numbers == list(range(1, count + 1)) and job.printer.count() == count, numbers
     except AssertionError as error:

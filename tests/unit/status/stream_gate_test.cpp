@@ -59,6 +59,38 @@ TEST(StreamGate, PassesAStreamAsItIs) {
     EXPECT_TRUE(gate.isDrained());
 }
 
+TEST(StreamGate, CountsDataThatGoPastIt) {
+    StreamGate gate;
+    fill(gate, "BITMAP 0,0,2,5,0,ab");
+    EXPECT_EQ(gate.dataLeft(), 0U) << "some of them are still to be handed on";
+    EXPECT_EQ(passed(gate), "BITMAP 0,0,2,5,0,ab");
+    EXPECT_EQ(gate.dataLeft(), 8U);
+    gate.passed(7);
+    EXPECT_EQ(gate.dataLeft(), 1U);
+    EXPECT_TRUE(gate.isInData());
+    gate.passed(1);
+    EXPECT_EQ(gate.dataLeft(), 0U);
+    EXPECT_FALSE(gate.isBetweenCommands());
+    EXPECT_TRUE(gate.needsLineEnd());
+    fill(gate, "\r\n" + print);
+    EXPECT_EQ(passed(gate), "\r\n" + print);
+    EXPECT_EQ(gate.prints(), 1U);
+    EXPECT_TRUE(gate.isBetweenCommands());
+}
+
+TEST(StreamGate, IsCancelledBehindDataOfWhichSomeWentPastIt) {
+    StreamGate gate;
+    fill(gate, "BITMAP 0,0,2,5,0,ab");
+    passed(gate);
+    gate.passed(6);
+    fill(gate, "ij\r\n" + print);
+    EXPECT_EQ(passedBytes(gate, 1), "i");
+    gate.cancel();
+    EXPECT_EQ(passed(gate), "j\r\n");
+    EXPECT_TRUE(gate.isFinished());
+    EXPECT_EQ(gate.prints(), 0U);
+}
+
 TEST(StreamGate, LetsTheSetUpPassWhereLabelsAreHeld) {
     StreamGate gate;
     fill(gate, setUp + bitmap + print);
