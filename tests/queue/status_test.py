@@ -6,14 +6,17 @@ import random
 import re
 import subprocess
 import sys
+import threading
 import time
 
 import documents
 from cups_queue import FOLDER, HERE, ROOT, add_queue, check, faults_of_jobs, received, run, send, wait
 
 sys.path.insert(0, f'{ROOT}/tests/support')
+from any_printer import any_job
 from fake_printer import (COVER_OPEN, HEAD_OPEN, JAM, NO_LABELS, NO_RIBBON, OTHER, PAUSED, Closing, FakePrinter,
                           For, Mute, Printing, Ready, Slow)
+from label_streams import labels
 
 URI = f'ipp://{os.environ["CUPS_SHARED"]}/'
 MODELS = 'KSTL203 KSTL203M KSTL300 KSTL300M KSTS300'.split()
@@ -303,23 +306,75 @@ def a_mute_printer_costs_its_wait_once():
         assert reasons() == 'none' and printer.count() == 6 and not printer.faults
 
 
-def cancelled_jobs_leave_nothing():
-    """At moments from before the first filter to behind the last label, with and without errors."""
+def in_queues(job, jobs, queues):
+    """Does job(number, queue) for so many jobs, in some queues beside each other; lists what it gave."""
+    numbers, given, failures = list(range(jobs)), [], []
+
+    def work(queue):
+        while numbers and not failures:
+            try:
+                given.append(job(numbers.pop(), queue))
+            except (AssertionError, OSError, subprocess.SubprocessError) as error:
+                failures.append(error)
+    workers = [threading.Thread(target=work, args=[f'labels{i}']) for i in range(queues)]
+    for worker in workers:
+        worker.start()
+    for worker in workers:
+        worker.join()
+    assert not failures, failures
+    return given
+
+
+def written(number, stream):
+    path = f'{FOLDER}/{number}.prn'
+    with open(path, 'wb') as file:
+        file.write(stream)
+    return path
+
+
+def no_label_is_lost_or_doubled_in_200_jobs():
+    printers = {}
+
+    def job(number, queue):
+        stream, count, behaviour = any_job(random.Random(number))
+        if queue not in printers:
+            printers[queue] = FakePrinter()
+            printers[queue].listen()
+            queue_for(printers[queue], queue)
+        printer = printers[queue]
+        printer.restart(behaviour)
+        sent = send(queue, written(number, stream), '-o', 'raw')
+        printer.finish(60).assert_labels(count)
+        assert bytes(printer.stream) == stream and printer.connections == 1 and printer.questions, number
+        return sent
+    wait(*in_queues(job, 200, queues=10))
+    for queue, printer in printers.items():
+        printer.__exit__()
+        assert reasons(queue) == 'none' and printer_state(queue) == 'idle', queue
+    return faults_of_jobs()
+
+
+def jobs_cancelled_at_50_moments_leave_nothing():
+    """From before the first filter to behind the last label, with and without errors; documents that
+    pass through the filters, and streams of large bitmaps."""
     document = three_labels()
-    dice = random.Random(11)
-    for number in range(20):
+
+    def job(number, queue):
+        dice = random.Random(number)
         behaviour = [Ready(), For(NO_LABELS, 0.7), Slow(400000), For(HEAD_OPEN, 5, label=2)][number % 4]
+        what = [document] if number % 3 == 0 else [written(number, labels(4, 80000, dice)), '-o', 'raw']
         with FakePrinter(behaviour) as printer:
-            queue_for(printer)
-            job = send('labels', document)
+            queue_for(printer, queue)
+            sent = send(queue, *what)
             time.sleep(dice.uniform(0, 1.5))
-            subprocess.run(['cancel', str(job)], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-            seen(lambda: job_state(job) in ('canceled', 'completed'), True, 10)
-            seen(reasons, 'none', 3)
+            subprocess.run(['cancel', str(sent)], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            seen(lambda: job_state(sent) in ('canceled', 'completed'), True, 10)
+            seen(lambda: reasons(queue), 'none', 3)
             if printer.connections:
                 printer.finish()
                 assert printer.reader.is_between() or printer.reader.after_data, bytes(printer.reader.rest[-40:])
                 assert len(printer.started) - len(printer.labels) in (0, 1)
+    in_queues(job, 50, queues=5)
     return faults_of_jobs()
 
 

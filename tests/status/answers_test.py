@@ -5,7 +5,8 @@ import time
 
 from fake_printer import (COVER_OPEN, HEAD_OPEN, JAM, NO_LABELS, NO_RIBBON, OTHER, PAUSED, PRINTING,
                           For, Late, Printing, Ready, Says, Slow)
-from monitor_run import SLACK, Run, all_printed, golden, labels, printed, wait_for
+from label_streams import labels
+from monitor_run import SLACK, Run, all_printed, golden, printed, wait_for
 
 REASONS = {HEAD_OPEN: 'cover-open-error', JAM: 'media-jam-error', NO_LABELS: 'media-empty-error',
            NO_RIBBON: 'marker-supply-empty-error', PAUSED: 'paused', COVER_OPEN: 'cover-open-error',

@@ -6,7 +6,8 @@ import signal
 import time
 
 from fake_printer import HEAD_OPEN, NO_LABELS, PAUSED, Closing, For, Late, Mute, Printing, Ready, Slow
-from monitor_run import Run, boundaries, labels, run, wait_for
+from label_streams import boundaries, labels
+from monitor_run import Run, run, wait_for
 
 AT_ONCE = 0.3                            # seconds from the last byte taken to the end
 

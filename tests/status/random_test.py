@@ -2,44 +2,17 @@
 import random
 import threading
 
-from fake_printer import PRINTING, For, Late, Printing, Ready, Says, Slow
-from monitor_run import Run, labels
+from any_printer import any_job
+from monitor_run import Run
 
 RUNS, AT_A_TIME = 200, 10
 
 
-class Whimsical(Ready):
-    """Ready most of the time; every now and then another status, or more bytes than asked for."""
-
-    def __init__(self, dice):
-        self.dice, self.errors = dice, 2
-
-    def answer(self, printer):
-        choice = self.dice.random()
-        if choice < 0.1 and self.errors:
-            self.errors -= 1
-            return bytes([1 << self.dice.choice([0, 1, 2, 3, 4, 6, 7])])
-        if choice < 0.2:
-            return bytes([PRINTING])
-        return b'\0' if choice < 0.9 else b'\0\r\n'
-
-
-def behaviour(dice, size):
-    kinds = (Ready, lambda: Whimsical(dice), lambda: For(1 << dice.choice([0, 1, 2, 3, 4, 6, 7]), dice.uniform(0, 0.6),
-             label=dice.choice([1, 2])), lambda: Late(dice.uniform(0, 0.3)), lambda: Slow(dice.choice([5000, 50000]) if size < 60000 else 1000000),
-             lambda: Printing(dice.uniform(0, 0.2)), lambda: Says(b'\0' * dice.randrange(1, 9)), lambda: Whimsical(dice))
-    return dice.choice(kinds)()
-
-
 def one(seed, failures):
     dice = random.Random(seed)
-    count = dice.randrange(1, 5)
-    size = dice.choice([10, 200, 1500, 60000, 300000])
-    stream = labels(count, size=size, dice=dice)
+    stream, count, behaviour = any_job(dice)
     try:
-        job = Run(stream, behaviour(dice, size)).finish().assert_printed()
-        numbers = [label.number for label in job.printer.labels]
-        assert numbers == list(range(1, count + 1)) and job.printer.count() == count, numbers
+        Run(stream, behaviour).finish().assert_printed().printer.assert_labels(count)
     except AssertionError as error:
         failures.append((seed, error))
 

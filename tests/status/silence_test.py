@@ -3,7 +3,8 @@ import os
 import time
 
 from fake_printer import NO_LABELS, For, Mute, MuteAfter, Ready, Slow
-from monitor_run import FOLDER, SLACK, Run, all_printed, labels, printed, run
+from label_streams import labels
+from monitor_run import FOLDER, SLACK, Run, all_printed, printed, run
 
 WAIT, PATIENCE = 1.5, 10                 # seconds: for the first answer, for any later one
 

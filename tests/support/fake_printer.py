@@ -195,12 +195,17 @@ class FakePrinter:
     """
 
     def __init__(self, behaviour=None):
+        self.closed, self.ended = False, threading.Event()
+        self.restart(behaviour)
+
+    def restart(self, behaviour=None):
+        """As if switched on anew, between two jobs."""
+        self.ended.clear()
         self.behaviour = behaviour or Ready()
         self.stream, self.raw = bytearray(), bytearray()
         self.labels, self.questions, self.answers, self.started, self.faults = [], [], [], {}, []
         self.last_byte = self.asked_first = None
         self.connections = 0
-        self.closed, self.ended = False, threading.Event()
         self.reader = TsplReader(self)
 
     def listen(self):
@@ -283,6 +288,11 @@ class FakePrinter:
         assert self.ended.wait(timeout), 'the line is still open'
         assert not self.faults, self.faults
         return self
+
+    def assert_labels(self, count):
+        """All of them have come, each once, in order."""
+        numbers = [label.number for label in self.labels]
+        assert numbers == list(range(1, count + 1)) and self.count() == count, numbers
 
     def count(self):
         return sum(label.copies for label in self.labels)
