@@ -4,7 +4,7 @@ include(GNUInstallDirs)
 
 set(programs PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE
     GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
-install(TARGETS documenttokestotspl picturetokestolabel rastertokestotspl
+install(TARGETS documenttokestotspl picturetokestolabel rastertokestocontent rastertokestotspl
     DESTINATION ${KESTO_CUPS_SERVERBIN}/filter ${programs})
 install(TARGETS tsplstatus DESTINATION ${KESTO_CUPS_SERVERBIN}/monitor ${programs})
 install(TARGETS tsplpreview kesto-tspl-size DESTINATION ${CMAKE_INSTALL_BINDIR} ${programs})

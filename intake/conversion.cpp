@@ -30,17 +30,14 @@ void failIfFailed(pid_t child, std::string_view usualReason, const TemporaryFold
     throw JobFailure(text);
 }
 
-// The filter reads from the converter itself; nothing passes through here.
+// The converter writes to those who print; nothing passes through here.
 void printBehind(pid_t converter, Descriptor raster, const Conversion& conversion,
                  const RoadPlan& plan, const TemporaryFolder& folder, Supervisor& supervisor) {
-    const pid_t filter = startPrinting(plan, conversion.description, conversion.options,
-                                       raster.number(), folder, supervisor);
+    const PrintingPrograms printing = startPrinting(
+        plan, conversion.description, conversion.options, raster.number(), folder, supervisor);
     raster.close();
-    while (supervisor.isRunning(filter)) {
-        supervisor.wait({});
-    }
     // What a converter has to say when its reader is gone is not the reason for anything.
-    failIfPrintingFailed(filter, supervisor);
+    finishPrinting(printing, supervisor);
     supervisor.waitForEnd(converter);
     failIfFailed(converter, {}, folder, supervisor);
 }

@@ -35,13 +35,16 @@ std::string serverBin() {
     return folder == nullptr || *folder == '\0' ? KESTO_CUPS_SERVERBIN : folder;
 }
 
-FilterPrograms findPrograms(DocumentKind kind, bool isLaidOut) {
+FilterPrograms findPrograms(const ProgramNeeds& needs) {
     FilterPrograms programs{serverBin() + "/filter", {}};
     require(programs, "rastertokestotspl");
-    if (kind == DocumentKind::Picture) {
+    if (needs.separatesContent) {
+        require(programs, "rastertokestocontent");
+    }
+    if (needs.kind == DocumentKind::Picture) {
         require(programs, "picturetokestolabel");
     }
-    if (isLaidOut) {
+    if (needs.isLaidOut) {
         require(programs, "pdftopdf");
         programs.converter = findConverter(programs);
     }

@@ -14,10 +14,16 @@ struct FilterPrograms {
     std::string pathOf(const std::string& name) const { return folder + "/" + name; }
 };
 
-/// Looks for those that a kind of document needs, when its pages are laid out and converted or when
-/// they are not, below $CUPS_SERVERBIN or where CUPS was
-/// installed. Throws JobFailure with the name of the one that is missing.
-FilterPrograms findPrograms(DocumentKind kind, bool isLaidOut);
+/// What of a job says which programs it needs.
+struct ProgramNeeds {
+    DocumentKind kind;
+    bool isLaidOut;         ///< pages are laid out and converted
+    bool separatesContent;  ///< text and the like are told from pictures
+};
+
+/// Looks for those that a job needs below $CUPS_SERVERBIN or where CUPS was installed. Throws
+/// JobFailure with the name of the one that is missing.
+FilterPrograms findPrograms(const ProgramNeeds& needs);
 
 /// The folder of the scheduler's programs.
 std::string serverBin();

@@ -50,7 +50,7 @@ void PrintJob::readQueue() {
 void PrintJob::findPrograms() {
     const bool isLaidOut = document_.kind == DocumentKind::Pdf ||
                            (document_.kind == DocumentKind::Picture && needsLayout(options_));
-    programs_ = intake::findPrograms(document_.kind, isLaidOut);
+    programs_ = intake::findPrograms({document_.kind, isLaidOut, queue_.separatesContent});
 }
 
 void PrintJob::chooseLabel() {
@@ -64,8 +64,8 @@ void PrintJob::chooseLabel() {
 }
 
 void PrintJob::print() {
-    const RoadPlan plan{arguments_,   document_, programs_, options_,
-                        description_, label_,    queue_.dpi};
+    const RoadPlan plan{arguments_,   document_, programs_,  options_,
+                        description_, label_,    queue_.dpi, queue_.separatesContent};
     if (document_.kind == DocumentKind::Raster) {
         return printRaster(plan, folder_, supervisor_);
     }

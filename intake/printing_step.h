@@ -8,12 +8,19 @@
 
 namespace intake {
 
-/// Starts rastertokestotspl, which reads raster and writes to this process's standard output.
-pid_t startPrinting(const RoadPlan& plan, const std::string& description,
-                    const std::string& options, int raster, const TemporaryFolder& folder,
-                    Supervisor& supervisor);
+/// What prints: the filter, and what separates the content in front of it, when that is wanted.
+struct PrintingPrograms {
+    pid_t filter = 0;
+    pid_t separator = 0;  ///< 0: none
+};
 
-/// Throws JobFailure when it has ended so.
-void failIfPrintingFailed(pid_t filter, const Supervisor& supervisor);
+/// Starts rastertokestotspl, which writes to this process's standard output, and in front of it
+/// rastertokestocontent where content is to be separated. The first of them reads the raster.
+PrintingPrograms startPrinting(const RoadPlan& plan, const std::string& description,
+                               const std::string& options, int raster,
+                               const TemporaryFolder& folder, Supervisor& supervisor);
+
+/// Sleeps until all have ended. Throws JobFailure when one has failed.
+void finishPrinting(const PrintingPrograms& programs, Supervisor& supervisor);
 
 }  // namespace intake

@@ -52,7 +52,7 @@ public:
             letFinish();
             throw;
         }
-        if (filter_ == 0) {
+        if (printing_.filter == 0) {
             throw JobFailure("The document has no page to print");
         }
         finish();
@@ -72,7 +72,7 @@ private:
             throw JobFailure("The raster cannot be printed: " + treatment.refusal);
         }
         ++page_;
-        if (filter_ == 0) {
+        if (printing_.filter == 0) {
             start();
         }
         std::vector<unsigned char> line(std::max(header.cupsBytesPerLine, treatment.width));
@@ -124,8 +124,8 @@ private:
                                                 plan_.label.name, sizes::JobStep::Layout));
         Pipe raster = makePipe();
         const StepOptions options = stepOptions(plan_.options, plan_.label, false);
-        filter_ = startPrinting(plan_, description, options.laidOut.text(), raster.readEnd.number(),
-                                folder_, supervisor_);
+        printing_ = startPrinting(plan_, description, options.laidOut.text(),
+                                  raster.readEnd.number(), folder_, supervisor_);
         output_ = std::move(raster.writeEnd);
         fcntl(output_.number(), F_SETFL, O_NONBLOCK);
         constexpr unsigned syncWord = CUPS_RASTER_SYNC;
@@ -158,31 +158,29 @@ private:
 
     // What came before a failure is printed.
     void letFinish() {
-        if (filter_ != 0 && supervisor_.isRunning(filter_)) {
+        if (printing_.filter != 0 && supervisor_.isRunning(printing_.filter)) {
             flush();
             output_.close();
-            supervisor_.waitForEnd(filter_);
+            supervisor_.waitForEnd(printing_.filter);
         }
     }
 
     [[noreturn]] void finishEarly() {
-        supervisor_.waitForEnd(filter_);
-        failIfPrintingFailed(filter_, supervisor_);
+        finishPrinting(printing_, supervisor_);
         throw JobFailure("rastertokestotspl ended before its raster did");
     }
 
     void finish() {
         flush();
         output_.close();
-        supervisor_.waitForEnd(filter_);
-        failIfPrintingFailed(filter_, supervisor_);
+        finishPrinting(printing_, supervisor_);
     }
 
     const RoadPlan& plan_;
     const TemporaryFolder& folder_;
     Supervisor& supervisor_;
     RasterReader reader_;
-    pid_t filter_ = 0;
+    PrintingPrograms printing_;
     Descriptor output_;
     std::vector<unsigned char> buffer_;
     int page_ = 0;

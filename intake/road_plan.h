@@ -21,6 +21,7 @@ struct RoadPlan {
     const std::string& description;  ///< the text of the queue's PPD file
     const Label& label;
     int dpi;
+    bool separatesContent;  ///< text and the like from pictures
 };
 
 /// What one program of a job is told.

@@ -19,7 +19,8 @@ exec {program} "$@"
 def recording(converter='gstoraster'):
     """A folder of programs that write down how they are called."""
     programs = {name: intake_run.CUPS_FILTERS + name for name in ('pdftopdf', converter)}
-    programs.update(rastertokestotspl=intake_run.FILTER, picturetokestolabel=intake_run.PICTURE)
+    programs.update(rastertokestotspl=intake_run.FILTER, picturetokestolabel=intake_run.PICTURE,
+                    rastertokestocontent=intake_run.CONTENT)
     return server_bin(converter, **{
         name: script(RECORD.format(folder=FOLDER, program=path)) for name, path in programs.items()})
 

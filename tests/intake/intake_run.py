@@ -16,6 +16,7 @@ sys.dont_write_bytecode = True
 import label_stream
 
 INTAKE, FILTER, PICTURE, PREVIEWER, INSTALLED = (os.path.abspath(name) for name in sys.argv[1:6])
+CONTENT = os.path.join(os.path.dirname(INTAKE), 'content/rastertokestocontent')
 CUPS_FILTERS = '/usr/lib/cups/filter/'
 CONVERTERS = ('gstoraster', 'pdftoraster')
 FOLDER = tempfile.mkdtemp(prefix='intake-test-')
@@ -45,7 +46,7 @@ def server_bin(converter='gstoraster', but=(), **others):
     folder = tempfile.mkdtemp(dir=FOLDER)
     os.mkdir(f'{folder}/filter')
     programs = {name: CUPS_FILTERS + name for name in ('pdftopdf', converter)}
-    programs.update(rastertokestotspl=FILTER, picturetokestolabel=PICTURE)
+    programs.update(rastertokestotspl=FILTER, picturetokestolabel=PICTURE, rastertokestocontent=CONTENT)
     programs.update(others)
     for name, path in programs.items():
         if name not in but:

@@ -11,7 +11,8 @@ sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), '../
 import label_stream
 
 CUPS_FILTERS = '/usr/lib/cups/filter/'
-PROGRAMS = {'rastertokestotspl': picture_run.FILTER, 'picturetokestolabel': picture_run.PICTURE}
+PROGRAMS = {'rastertokestotspl': picture_run.FILTER, 'picturetokestolabel': picture_run.PICTURE,
+            'rastertokestocontent': os.path.join(os.path.dirname(picture_run.INTAKE), 'content/rastertokestocontent')}
 
 
 def filter_folder():

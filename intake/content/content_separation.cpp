@@ -1,0 +1,290 @@
+#include "intake/content/content_separation.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "intake/content/limits.h"
+
+namespace intake::content {
+namespace {
+
+constexpr double millimetresPerInch = 25.4;
+
+std::size_t blocksOfTint(unsigned dpi) {
+    constexpr double fewest = 2;
+    const double blocks = tintEdge * dpi / millimetresPerInch / blockDots;
+    return static_cast<std::size_t>(std::max(fewest, std::round(blocks)));
+}
+
+bool hasAny(const PerBlock& values) {
+    return std::any_of(values.begin(), values.end(), [](std::uint8_t value) { return value != 0; });
+}
+
+// Along a row, as far as blocks touch.
+void spreadAlong(const PerBlock& touchesRight, PerBlock& isContinuous) {
+    if (!hasAny(isContinuous)) {
+        return;
+    }
+    std::uint8_t before = 0;
+    for (std::size_t i = 0; i < isContinuous.size(); ++i) {
+        before = isContinuous[i] = static_cast<std::uint8_t>(isContinuous[i] | before);
+        before &= touchesRight[i];
+    }
+    before = 0;
+    for (std::size_t i = isContinuous.size(); i-- > 0;) {
+        before &= touchesRight[i];
+        before = isContinuous[i] = static_cast<std::uint8_t>(isContinuous[i] | before);
+    }
+}
+
+// What is continuous in another row, where the two touch.
+void spreadOver(const PerBlock& other, const PerBlock& touches, PerBlock& isContinuous) {
+    const std::uint8_t* __restrict from = other.data();
+    const std::uint8_t* __restrict contact = touches.data();
+    std::uint8_t* __restrict to = isContinuous.data();
+    for (std::size_t i = 0; i < isContinuous.size(); ++i) {
+        to[i] |= from[i] & contact[i];
+    }
+}
+
+void add(const PerBlock& marks, PerBlock& to) {
+    const std::uint8_t* __restrict from = marks.data();
+    std::uint8_t* __restrict sum = to.data();
+    for (std::size_t i = 0; i < to.size(); ++i) {
+        sum[i] |= from[i];
+    }
+}
+
+// The least and greatest levels of two rows.
+void narrowTo(const BlockRow& row, PerBlock& least, PerBlock& most) {
+    const std::uint8_t* __restrict rowLeast = row.least.data();
+    const std::uint8_t* __restrict rowMost = row.most.data();
+    std::uint8_t* __restrict bothLeast = least.data();
+    std::uint8_t* __restrict bothMost = most.data();
+    for (std::size_t i = 0; i < least.size(); ++i) {
+        bothLeast[i] = std::min(bothLeast[i], rowLeast[i]);
+        bothMost[i] = std::max(bothMost[i], rowMost[i]);
+    }
+}
+
+bool hasContrast(const BlockRow& row, std::size_t i) {
+    return row.windowMost[i] - row.windowLeast[i] >= leastContrast;
+}
+
+bool isTint(int least, int most) {
+    return (most - least < tintRange && least > lightestTint) ||
+           (most - least <= evenRange && least > lightestEvenTint);
+}
+
+// Of squares, from the levels of their columns.
+void markTints(const PerBlock& least, const PerBlock& most, std::size_t edge, PerBlock& isInTint) {
+    std::size_t flat = 0;  // columns up to here, each by itself
+    for (std::size_t i = 0; i < least.size(); ++i) {
+        flat = isTint(least[i], most[i]) ? flat + 1 : 0;
+        if (flat >= edge) {
+            const auto first = static_cast<std::ptrdiff_t>(i + 1 - edge);
+            const auto end = static_cast<std::ptrdiff_t>(i + 1);
+            if (isTint(*std::min_element(least.begin() + first, least.begin() + end),
+                       *std::max_element(most.begin() + first, most.begin() + end))) {
+                std::fill(isInTint.begin() + first, isInTint.begin() + end, std::uint8_t{1});
+            }
+        }
+    }
+}
+
+}  // namespace
+
+ContentSeparation::ContentSeparation(const PageShape& page, RowSink sink)
+    : page_(page),
+      sink_(std::move(sink)),
+      blockRows_(static_cast<Index>((page.rows + blockDots - 1) / blockDots)),
+      tintBlocks_(blocksOfTint(page.dpi)),
+      seedDelay_(std::max<Index>(2, static_cast<Index>(tintBlocks_) - 1)),
+      delay_(seedDelay_ + static_cast<Index>(spreads) + 2),
+      ring_(static_cast<std::size_t>(delay_) + 2, BlockRow(page.columns)),
+      columnSums_(ring_.front().blocks + 2),
+      sums_(ring_.front().blocks),
+      treatments_(ring_.front().blocks),
+      result_(ring_.front().stride) {}
+
+// Null outside the page.
+BlockRow* ContentSeparation::at(Index i) {
+    return i < 0 || i >= blockRows_ ? nullptr : &ring_[static_cast<std::size_t>(i) % ring_.size()];
+}
+
+void ContentSeparation::push(std::span<const std::uint8_t> row) {
+    BlockRow& blocks = *at(current_);
+    std::uint8_t* line = blocks.line(blocks.lines++);
+    std::copy(row.begin(), row.end(), line);
+    std::fill(line + page_.columns, line + blocks.pitch(), row.back());
+    const bool isLast = static_cast<std::size_t>(current_) * blockDots + blocks.lines == page_.rows;
+    if (blocks.lines == blockDots || isLast) {
+        endBlockRow();
+    }
+}
+
+void ContentSeparation::endBlockRow() {
+    BlockRow& blocks = *at(current_);
+    for (std::size_t i = blocks.lines; i < blockDots; ++i) {
+        std::copy_n(blocks.line(blocks.lines - 1), blocks.pitch(), blocks.line(i));
+    }
+    step(current_++);
+    if (current_ < blockRows_) {
+        at(current_)->lines = 0;
+        return;
+    }
+    for (Index i = 0; i < delay_; ++i) {
+        step(current_ + i);
+    }
+}
+
+// Everything that can be known once the newest row of blocks is there.
+void ContentSeparation::step(Index newest) {
+    if (BlockRow* row = at(newest)) {
+        findExtremes(*row);
+    }
+    if (BlockRow* row = at(newest - 1)) {
+        findWindowExtremes(at(newest - 2), *row, at(newest));
+        countSmoothDots(*row, at(newest));
+        findContacts(*row, at(newest));
+    }
+    findTints(newest - static_cast<Index>(tintBlocks_) + 1);
+    Index ready = newest - seedDelay_;
+    findSeeds(ready);
+    for (std::size_t i = 0; i < spreads; ++i) {
+        spread(--ready, i);
+    }
+    decide(--ready);
+    putOut(--ready);
+}
+
+// Marks the blocks of all squares of one level whose first row this is.
+void ContentSeparation::findTints(Index i) {
+    BlockRow* row = at(i);
+    if (row == nullptr) {
+        return;
+    }
+    std::fill(row->isInTint.begin(), row->isInTint.end(), std::uint8_t{0});
+    const auto edge = static_cast<Index>(tintBlocks_);
+    if (at(i + edge - 1) == nullptr) {
+        return;
+    }
+    PerBlock least = row->least;
+    PerBlock most = row->most;
+    for (Index other = i + 1; other < i + edge; ++other) {
+        narrowTo(*at(other), least, most);
+    }
+    markTints(least, most, tintBlocks_, row->isInTint);
+}
+
+void ContentSeparation::findSeeds(Index i) {
+    BlockRow* row = at(i);
+    if (row == nullptr) {
+        return;
+    }
+    PerBlock& seeds = row->isContinuous.front();
+    std::fill(seeds.begin(), seeds.end(), std::uint8_t{0});
+    for (Index first = i - static_cast<Index>(tintBlocks_) + 1; first <= i; ++first) {
+        if (const BlockRow* tints = at(first)) {
+            add(tints->isInTint, seeds);
+        }
+    }
+    sumAround(i, [](const BlockRow& other) -> const PerBlock& { return other.smooth; });
+    for (std::size_t block = 0; block < seeds.size(); ++block) {
+        const bool isSmooth = hasContrast(*row, block) && sums_[block] >= fewestSmoothDots;
+        seeds[block] |= isSmooth ? 1 : 0;
+    }
+    spreadAlong(row->touchesRight, seeds);
+}
+
+// Of each block and the eight around it; blocks outside the page count as 0.
+void ContentSeparation::sumAround(Index i, const PerBlock& (*valuesOf)(const BlockRow&)) {
+    std::fill(columnSums_.begin(), columnSums_.end(), std::uint16_t{0});
+    for (const Index other : {i - 1, i, i + 1}) {
+        if (const BlockRow* row = at(other)) {
+            std::transform(columnSums_.begin() + 1, columnSums_.end() - 1, valuesOf(*row).begin(),
+                           columnSums_.begin() + 1, [](std::uint16_t sum, std::uint8_t value) {
+                               return static_cast<std::uint16_t>(sum + value);
+                           });
+        }
+    }
+    for (std::size_t block = 0; block < sums_.size(); ++block) {
+        sums_[block] = static_cast<std::uint16_t>(columnSums_[block] + columnSums_[block + 1] +
+                                                  columnSums_[block + 2]);
+    }
+}
+
+// Up and down by a row, then along it for the next time.
+void ContentSeparation::spread(Index i, std::size_t from) {
+    BlockRow* row = at(i);
+    if (row == nullptr) {
+        return;
+    }
+    PerBlock& wider = row->isContinuous[from + 1];
+    wider = row->isContinuous[from];
+    if (const BlockRow* above = at(i - 1)) {
+        spreadOver(above->isContinuous[from], above->touchesBelow, wider);
+    }
+    if (const BlockRow* below = at(i + 1)) {
+        spreadOver(below->isContinuous[from], row->touchesBelow, wider);
+    }
+    if (from + 1 < spreads) {
+        spreadAlong(row->touchesRight, wider);
+    }
+}
+
+void ContentSeparation::decide(Index i) {
+    BlockRow* row = at(i);
+    if (row == nullptr) {
+        return;
+    }
+    sumAround(i,
+              [](const BlockRow& other) -> const PerBlock& { return other.isContinuous.back(); });
+    for (std::size_t block = 0; block < row->blocks; ++block) {
+        const bool isContinuous = row->isContinuous.back()[block] != 0;
+        const int around = sums_[block] - (isContinuous ? 1 : 0);
+        const bool isLightPart =
+            around > 0 && row->most[block] > paperMost && row->most[block] < lightMost;
+        const bool isLeft = isContinuous || around >= mostOfNeighbours || isLightPart;
+        row->isLeft[block] = isLeft ? 1 : 0;
+        row->isBilevel[block] =
+            !isLeft && hasContrast(*row, block) && row->windowLeast[block] <= darkestPaper ? 1 : 0;
+    }
+}
+
+// With the sums of bilevel blocks.
+void ContentSeparation::choose(const BlockRow& row, std::size_t block) {
+    if (row.isBilevel[block] != 0) {
+        const int least = row.windowLeast[block];
+        const int middle = least + (row.windowMost[block] - least + 1) / 2;
+        return treatments_.cut(block, static_cast<std::uint8_t>(middle));
+    }
+    if (row.isLeft[block] != 0 || hasContrast(row, block)) {
+        return treatments_.leave(block);
+    }
+    const bool isNoise = row.windowMost[block] <= noiseMost && sums_[block] > 0;
+    if (row.most[block] <= paperMost || isNoise) {
+        return treatments_.make(block, 0);
+    }
+    return row.least[block] >= blackLeast ? treatments_.make(block, 0xFF)
+                                          : treatments_.leave(block);
+}
+
+void ContentSeparation::putOut(Index i) {
+    const BlockRow* row = at(i);
+    if (row == nullptr) {
+        return;
+    }
+    sumAround(i, [](const BlockRow& other) -> const PerBlock& { return other.isBilevel; });
+    for (std::size_t block = 0; block < row->blocks; ++block) {
+        choose(*row, block);
+    }
+    treatments_.spreadToDots(row->stride);
+    for (std::size_t line = 0; line < row->lines; ++line) {
+        treatments_.treat(row->line(line), result_.data());
+        sink_({result_.data(), page_.columns});
+    }
+}
+
+}  // namespace intake::content

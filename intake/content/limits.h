@@ -1,0 +1,44 @@
+#pragma once
+
+namespace intake::content {
+
+// Levels of K, 0 paper to 255 black. All were found by trial with codes, texts and photographs;
+// what stands beside them says between which things they lie.
+
+/// Range of a window from which on there is something to tell apart: the faintest text and lines
+/// that are made black, above the noise of JPEG pictures.
+inline constexpr int leastContrast = 24;
+/// Ranges of this part of a level count as none in a smooth place of a window of low contrast.
+inline constexpr int leastTolerance = 2;
+/// Smooth dots in three by three blocks (576 dots) that make the middle one continuous. Codes and
+/// texts that were blurred and came as JPEG have 39 at most, photographs 120 in their middle block.
+inline constexpr int fewestSmoothDots = 48;
+/// The lightest level of a window with bilevel content: paper, also under JPEG noise.
+inline constexpr int darkestPaper = 48;
+
+/// A tint is flat within this range, and darker than that.
+inline constexpr int tintRange = 24;
+inline constexpr int lightestTint = 24;
+/// Tints that are lighter are taken for noise unless they are as even as only drawings are.
+inline constexpr int evenRange = 2;
+inline constexpr int lightestEvenTint = 6;
+/// Edge of the smallest square of a tint in mm: wider than modules of codes and strokes of letters.
+inline constexpr double tintEdge = 2;
+
+/// Blocks touch with levels between these two, or with levels that are alike and above the third.
+inline constexpr int lightTouch = 32;
+inline constexpr int blackTouch = 248;
+inline constexpr int paperTouch = 8;
+
+/// So many continuous blocks around one make it continuous.
+inline constexpr int mostOfNeighbours = 5;
+/// Beside what is continuous, a block of levels up to this is a light part of it.
+inline constexpr int lightMost = 48;
+
+/// Where nothing is to be told apart: levels that are paper, those that are paper beside bilevel
+/// content, and those that are black.
+inline constexpr int paperMost = 6;
+inline constexpr int noiseMost = 24;
+inline constexpr int blackLeast = 232;
+
+}  // namespace intake::content
