@@ -1,6 +1,7 @@
 #include "intake/content/block_kernels.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 #include "intake/content/byte_vector.h"
@@ -27,6 +28,14 @@ std::vector<Byte> spreadToDots(const PerBlock& values, std::size_t dots) {
     return spread;
 }
 
+// A line of this row or of the next one; of the last row, its last line.
+const Byte* lineBelow(const BlockRow& row, std::size_t i, const BlockRow* below) {
+    if (i < blockDots) {
+        return row.line(i);
+    }
+    return below != nullptr ? below->line(i - blockDots) : row.line(blockDots - 1);
+}
+
 bool hasAnyContrast(const BlockRow& row) {
     const auto most = std::max_element(row.windowMost.begin(), row.windowMost.end());
     const auto least = std::min_element(row.windowLeast.begin(), row.windowLeast.end());
@@ -45,19 +54,25 @@ SmoothLimits smoothLimits(const BlockRow& row) {
         if (range >= leastContrast) {
             limits.least[i] = byte(row.windowLeast[i] + range / 4);
             limits.most[i] = byte(row.windowMost[i] - range / 4);
-            limits.tolerance[i] = byte(std::max(leastTolerance, range / 8));
+            limits.tolerance[i] = byte(std::max(leastTolerance, range / smoothPart));
         }
     }
     return limits;
 }
 
+// How far a dot differs from the two that follow it: two bars of alike shade beside each other,
+// which blurring makes, are no smooth place.
+ByteVector changeTo(const ByteVector& next, const ByteVector& second, const ByteVector& level) {
+    return greater(difference(level, next), difference(level, second));
+}
+
 // One line's part of the count, a byte per dot.
-void addSmoothDots(const Byte* line, const Byte* below, std::size_t dots, const Byte* least,
-                   const Byte* most, const Byte* tolerance, Byte* counts) {
+void addSmoothDots(const Byte* line, const std::array<const Byte*, 2>& below, std::size_t dots,
+                   const Byte* least, const Byte* most, const Byte* tolerance, Byte* counts) {
     for (std::size_t x = 0; x < dots; x += vectorBytes) {
         const ByteVector level = load(line + x);
-        const ByteVector across = difference(level, load(line + x + 1));
-        const ByteVector down = difference(level, load(below + x));
+        const ByteVector across = changeTo(load(line + x + 1), load(line + x + 2), level);
+        const ByteVector down = changeTo(load(below[0] + x), load(below[1] + x), level);
         const ByteVector limit = load(tolerance + x);
         const ByteVector isMiddle =
             isAtMost(load(least + x), level) & isAtMost(level, load(most + x));
@@ -150,9 +165,8 @@ void countSmoothDots(BlockRow& row, const BlockRow* below) {
     const std::vector<Byte> tolerance = spreadToDots(limits.tolerance, row.stride);
     std::vector<Byte> counts(row.stride);
     for (std::size_t i = 0; i < blockDots; ++i) {
-        const Byte* next = i + 1 < blockDots  ? row.line(i + 1)
-                           : below != nullptr ? below->line(0)
-                                              : row.line(i);
+        const std::array<const Byte*, 2> next{lineBelow(row, i + 1, below),
+                                              lineBelow(row, i + 2, below)};
         addSmoothDots(row.line(i), next, row.stride, least.data(), most.data(), tolerance.data(),
                       counts.data());
     }

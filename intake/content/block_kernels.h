@@ -16,9 +16,9 @@ void findExtremes(BlockRow& row);
 void findWindowExtremes(const BlockRow* above, BlockRow& row, const BlockRow* below);
 
 /// In blocks with contrast in their window: how many dots have a level in the middle half of the
-/// window's range and differ from their right and lower neighbours together by no more than an
-/// eighth of it. Photographs and gradients are full of them, and letters, bars and their blurred
-/// edges have few. In blocks without contrast: none.
+/// window's range and differ from the two dots to the right and the two below, from the more
+/// distant ones of each, together by no more than a sixth of it. Photographs and gradients are full
+/// of them, and letters, bars and their blurred edges have few. In blocks without contrast: none.
 void countSmoothDots(BlockRow& row, const BlockRow* below);
 
 /// Which blocks touch the next one to the right and below with more than paper: where two dots on

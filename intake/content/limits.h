@@ -8,11 +8,12 @@ namespace intake::content {
 /// Range of a window from which on there is something to tell apart: the faintest text and lines
 /// that are made black, above the noise of JPEG pictures.
 inline constexpr int leastContrast = 24;
-/// Ranges of this part of a level count as none in a smooth place of a window of low contrast.
+/// A dot is smooth when it changes by no more than this part of its window's range, or so much.
+inline constexpr int smoothPart = 6;
 inline constexpr int leastTolerance = 2;
 /// Smooth dots in three by three blocks (576 dots) that make the middle one continuous. Codes and
-/// texts that were blurred and came as JPEG have 39 at most, photographs 120 in their middle block.
-inline constexpr int fewestSmoothDots = 48;
+/// texts that were blurred and came as JPEG have 24 at most, photographs 84 in their middle block.
+inline constexpr int fewestSmoothDots = 40;
 /// The lightest level of a window with bilevel content: paper, also under JPEG noise.
 inline constexpr int darkestPaper = 48;
 
