@@ -258,7 +258,8 @@ void ContentSeparation::choose(const BlockRow& row, std::size_t block) {
     if (row.isBilevel[block] != 0) {
         const int least = row.windowLeast[block];
         const int middle = least + (row.windowMost[block] - least + 1) / 2;
-        return treatments_.cut(block, static_cast<std::uint8_t>(middle));
+        // The middle itself is light, as it is for the printing filter.
+        return treatments_.cut(block, static_cast<std::uint8_t>(middle + 1));
     }
     if (row.isLeft[block] != 0 || hasContrast(row, block)) {
         return treatments_.leave(block);

@@ -237,7 +237,7 @@ private:
         const int column = x / edge;
         if (isBilevel(row, column, left)) {
             const int middle = windowLeast(row, column) + (range(row, column) + 1) / 2;
-            return level(y, x) >= middle ? 255 : 0;
+            return level(y, x) > middle ? 255 : 0;
         }
         if (left[at(row)][at(column)] || hasContrast(row, column)) {
             return level(y, x);

@@ -31,6 +31,14 @@ TEST(ContentSeparation, MakesCodesOfEveryColourBlack) {
     }
 }
 
+TEST(ContentSeparation, TakesTheMiddleOfTheLevelsForLight) {
+    TestPage page(100, 40);
+    page.drawBars(20, 10, 20, bars, 255);
+    page.fill(19, 10, 1, 20, 128);
+    page.fill(18 + 4, 10, 1, 20, 129);
+    EXPECT_EQ(separated(page), blackWhere(page, 129));
+}
+
 TEST(ContentSeparation, LeavesWhatIsTooFaintToTell) {
     TestPage page(200, 100);
     page.drawBars(20, 20, 60, bars, 23);
