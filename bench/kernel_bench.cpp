@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "bench/test_page.h"
@@ -17,6 +18,7 @@
 #include "filter/current_printer.h"
 #include "filter/tspl_printer.h"
 #include "image/raster_image.h"
+#include "intake/content/content_separation.h"
 #include "tests/reference/dither.h"
 #include "tests/reference/stencil.h"
 #include "tests/reference/stencil_blur.h"
@@ -50,6 +52,19 @@ void measure(benchmark::State& state, Operation operation) {
 
 void load(RasterImage& image) {
     image.CreateFromArray(page().data(), size.width, size.height, 8, size.width, false);
+}
+
+// Tells the content of a page apart; the rows that come out are thrown away.
+void separate(benchmark::State& state, const std::vector<std::uint8_t>& levels) {
+    for (auto _ : state) {
+        intake::content::ContentSeparation separation(
+            {size.width, size.height, 300},
+            [](std::span<const std::uint8_t> row) { benchmark::DoNotOptimize(row.data()); });
+        for (std::size_t y = 0; y < size.height; ++y) {
+            separation.push({levels.data() + y * size.width, size.width});
+        }
+    }
+    countPixels(state);
 }
 
 // Runs an operation that changes an image; what comes before it is not measured.
@@ -89,6 +104,21 @@ void LoadPage(benchmark::State& state) {
     });
 }
 BENCHMARK(LoadPage);
+
+void SeparatePhotograph(benchmark::State& state) {
+    separate(state, page());
+}
+BENCHMARK(SeparatePhotograph);
+
+void SeparateLineArt(benchmark::State& state) {
+    separate(state, testPage(size, PageContent::LineArt));
+}
+BENCHMARK(SeparateLineArt);
+
+void SeparatePaper(benchmark::State& state) {
+    separate(state, std::vector<std::uint8_t>(size.pixels()));
+}
+BENCHMARK(SeparatePaper);
 
 void Dither(benchmark::State& state) {
     measureOnImage(state, [&state](RasterImage& image) { image.Dither(state.range(0)); });

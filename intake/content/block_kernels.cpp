@@ -16,16 +16,34 @@ constexpr Byte byte(int value) {
     return static_cast<Byte>(value);
 }
 
-void spreadToDots(const PerBlock& values, Byte* dots) {
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        std::memset(dots + i * blockDots, values[i], blockDots);
+// The kernels go along a row in strips of two blocks, and down the eight lines of each.
+constexpr std::size_t stripBlocks = vectorBytes / blockDots;
+
+// The first byte of each half is a block's.
+void putBlocks(const ByteVector& bytes, std::size_t block, PerBlock& values) {
+    values[block] = bytes[0];
+    if (block + 1 < values.size()) {
+        values[block + 1] = bytes[vectorBytes / 2];
     }
 }
 
-std::vector<Byte> spreadToDots(const PerBlock& values, std::size_t dots) {
-    std::vector<Byte> spread(dots);
-    spreadToDots(values, spread.data());
-    return spread;
+// What countSmoothDots compares the dots of a strip with.
+struct SmoothLimits {
+    ByteVector least, most, tolerance;
+};
+
+// Of one block: none is in the middle where there is no contrast.
+std::array<Byte, 3> smoothLimits(const BlockRow& row, std::size_t block) {
+    const int range = block < row.blocks ? row.windowMost[block] - row.windowLeast[block] : 0;
+    if (range < leastContrast) {
+        return {0xFF, 0, 0};
+    }
+    return {byte(row.windowLeast[block] + range / 4), byte(row.windowMost[block] - range / 4),
+            byte(std::max(leastTolerance, range / smoothPart))};
+}
+
+SmoothLimits limitsOfStrip(const std::array<Byte, 3>& one, const std::array<Byte, 3>& other) {
+    return {halves(one[0], other[0]), halves(one[1], other[1]), halves(one[2], other[2])};
 }
 
 // A line of this row or of the next one; of the last row, its last line.
@@ -36,28 +54,15 @@ const Byte* lineBelow(const BlockRow& row, std::size_t i, const BlockRow* below)
     return below != nullptr ? below->line(i - blockDots) : row.line(blockDots - 1);
 }
 
-bool hasAnyContrast(const BlockRow& row) {
-    const auto most = std::max_element(row.windowMost.begin(), row.windowMost.end());
-    const auto least = std::min_element(row.windowLeast.begin(), row.windowLeast.end());
-    return *most - *least >= leastContrast;
-}
+// The lines of a row and the two that follow them.
+using Lines = std::array<const Byte*, blockDots + 2>;
 
-// What countSmoothDots compares with: a level from `least` to `most`, within `tolerance`.
-struct SmoothLimits {
-    PerBlock least, most, tolerance;
-};
-
-SmoothLimits smoothLimits(const BlockRow& row) {
-    SmoothLimits limits{PerBlock(row.blocks, 0xFF), PerBlock(row.blocks), PerBlock(row.blocks)};
-    for (std::size_t i = 0; i < row.blocks; ++i) {
-        const int range = row.windowMost[i] - row.windowLeast[i];
-        if (range >= leastContrast) {
-            limits.least[i] = byte(row.windowLeast[i] + range / 4);
-            limits.most[i] = byte(row.windowMost[i] - range / 4);
-            limits.tolerance[i] = byte(std::max(leastTolerance, range / smoothPart));
-        }
+Lines linesOf(const BlockRow& row, const BlockRow* below) {
+    Lines lines{};
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        lines[i] = lineBelow(row, i, below);
     }
-    return limits;
+    return lines;
 }
 
 // How far a dot differs from the two that follow it: two bars of alike shade beside each other,
@@ -66,128 +71,143 @@ ByteVector changeTo(const ByteVector& next, const ByteVector& second, const Byte
     return greater(difference(level, next), difference(level, second));
 }
 
-// One line's part of the count, a byte per dot.
-void addSmoothDots(const Byte* line, const std::array<const Byte*, 2>& below, std::size_t dots,
-                   const Byte* least, const Byte* most, const Byte* tolerance, Byte* counts) {
-    for (std::size_t x = 0; x < dots; x += vectorBytes) {
-        const ByteVector level = load(line + x);
-        const ByteVector across = changeTo(load(line + x + 1), load(line + x + 2), level);
-        const ByteVector down = changeTo(load(below[0] + x), load(below[1] + x), level);
-        const ByteVector limit = load(tolerance + x);
-        const ByteVector isMiddle =
-            isAtMost(load(least + x), level) & isAtMost(level, load(most + x));
+// Minus one for each of its blocks' dots that is smooth.
+ByteVector smoothDotsOfStrip(const Lines& lines, std::size_t x, const SmoothLimits& limits) {
+    ByteVector counts{};
+    for (std::size_t i = 0; i < blockDots; ++i) {
+        const ByteVector level = load(lines[i] + x);
+        const ByteVector across = changeTo(load(lines[i] + x + 1), load(lines[i] + x + 2), level);
+        const ByteVector down = changeTo(load(lines[i + 1] + x), load(lines[i + 2] + x), level);
+        const ByteVector isMiddle = isAtMost(limits.least, level) & isAtMost(level, limits.most);
         // Where the first holds, the difference of the second is none below 0.
-        const ByteVector isSmooth = isAtMost(across, limit) & isAtMost(down, limit - across);
-        store(load(counts + x) - (isMiddle & isSmooth), counts + x);
+        const ByteVector isSmooth =
+            isAtMost(across, limits.tolerance) & isAtMost(down, limits.tolerance - across);
+        counts -= isMiddle & isSmooth;
     }
+    return counts;
 }
 
-// Dots on the two sides of borders: marks where they touch.
-void addContacts(const Byte* one, const Byte* other, std::size_t dots, Byte* contacts) {
-    for (std::size_t x = 0; x < dots; x += vectorBytes) {
-        const ByteVector lighter = lesser(load(one + x), load(other + x));
-        const ByteVector darker = greater(load(one + x), load(other + x));
-        const ByteVector areAlike =
-            isAtMost(darker - lighter, splat(1)) & isAtMost(splat(paperTouch + 1), lighter);
-        const ByteVector areShaded = isAtMost(splat(lightTouch + 1), lighter);
-        const ByteVector isBlack = isAtMost(splat(blackTouch), darker);
-        store(load(contacts + x) | ((areAlike | areShaded) & ~isBlack), contacts + x);
-    }
+// Dots on the two sides of borders: where they touch.
+ByteVector contact(const ByteVector& one, const ByteVector& other) {
+    const ByteVector lighter = lesser(one, other);
+    const ByteVector darker = greater(one, other);
+    const ByteVector areAlike =
+        isAtMost(darker - lighter, splat(1)) & isAtMost(splat(paperTouch + 1), lighter);
+    const ByteVector areShaded = isAtMost(splat(lightTouch + 1), lighter);
+    return (areAlike | areShaded) & ~isAtMost(splat(blackTouch), darker);
 }
 
-void narrow(const Byte* line, std::size_t dots, Byte* least, Byte* most) {
-    for (std::size_t x = 0; x < dots; x += vectorBytes) {
-        store(lesser(load(least + x), load(line + x)), least + x);
-        store(greater(load(most + x), load(line + x)), most + x);
-    }
+// On bare paper nothing touches, and most of a label is that.
+bool isBare(const BlockRow& row, std::size_t block) {
+    return row.most[block] <= paperTouch &&
+           (block + 1 >= row.blocks || row.most[block + 1] <= paperTouch);
 }
 
-// Two dots together: half as many.
+ByteVector contactsToTheRight(const BlockRow& row, std::size_t x) {
+    ByteVector contacts{};
+    for (std::size_t i = 0; i < blockDots; ++i) {
+        contacts |= contact(load(row.line(i) + x), load(row.line(i) + x + 1));
+    }
+    return contacts;
+}
+
+// The least or the greatest of three neighbours, of which those outside do not count.
 template <typename Operation>
-void halve(const Byte* __restrict dots, std::size_t half, Operation operation,
-           Byte* __restrict result) {
-    for (std::size_t i = 0; i < half; ++i) {
-        result[i] = operation(dots[2 * i], dots[2 * i + 1]);
+void ofThree(const PerBlock& values, Operation operation, PerBlock& result) {
+    const Byte* __restrict from = values.data();
+    Byte* __restrict to = result.data();
+    const std::size_t last = values.size() - 1;
+    to[0] = operation(from[0], from[std::min<std::size_t>(1, last)]);
+    for (std::size_t i = 1; i < last; ++i) {
+        to[i] = operation(operation(from[i - 1], from[i]), from[i + 1]);
+    }
+    if (last > 0) {
+        to[last] = operation(from[last - 1], from[last]);
     }
 }
 
-// A block's dots together.
-template <typename Operation>
-void reduceBlocks(std::vector<Byte>& dots, Operation operation, PerBlock& result) {
-    std::vector<Byte> halves(dots.size() / 2);
-    halve(dots.data(), dots.size() / 2, operation, halves.data());
-    halve(halves.data(), dots.size() / 4, operation, dots.data());
-    halve(dots.data(), result.size(), operation, result.data());
+void spreadToDots(const PerBlock& values, Byte* dots) {
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        std::memset(dots + i * blockDots, values[i], blockDots);
+    }
 }
-
-constexpr auto leastOf = [](Byte a, Byte b) { return std::min(a, b); };
-constexpr auto mostOf = [](Byte a, Byte b) { return std::max(a, b); };
-constexpr auto sumOf = [](Byte a, Byte b) { return byte(a + b); };
-constexpr auto eitherOf = [](Byte a, Byte b) { return byte(a | b); };
 
 }  // namespace
 
-void findExtremes(BlockRow& row) {
-    std::vector<Byte> least(row.line(0), row.line(0) + row.stride);
-    std::vector<Byte> most = least;
-    for (std::size_t i = 1; i < blockDots; ++i) {
-        narrow(row.line(i), row.stride, least.data(), most.data());
+void narrowTo(const BlockRow& row, PerBlock& least, PerBlock& most) {
+    const Byte* __restrict rowLeast = row.least.data();
+    const Byte* __restrict rowMost = row.most.data();
+    Byte* __restrict bothLeast = least.data();
+    Byte* __restrict bothMost = most.data();
+    for (std::size_t i = 0; i < least.size(); ++i) {
+        bothLeast[i] = std::min(bothLeast[i], rowLeast[i]);
+        bothMost[i] = std::max(bothMost[i], rowMost[i]);
     }
-    reduceBlocks(least, leastOf, row.least);
-    reduceBlocks(most, mostOf, row.most);
+}
+
+void findExtremes(BlockRow& row) {
+    for (std::size_t block = 0; block < row.blocks; block += stripBlocks) {
+        const std::size_t x = block * blockDots;
+        ByteVector least = load(row.line(0) + x);
+        ByteVector most = least;
+        for (std::size_t i = 1; i < blockDots; ++i) {
+            least = lesser(least, load(row.line(i) + x));
+            most = greater(most, load(row.line(i) + x));
+        }
+        putBlocks(reduceHalves(least, lesser), block, row.least);
+        putBlocks(reduceHalves(most, greater), block, row.most);
+    }
 }
 
 void findWindowExtremes(const BlockRow* above, BlockRow& row, const BlockRow* below) {
     PerBlock least = row.least;
     PerBlock most = row.most;
     for (const BlockRow* other : {above, below}) {
-        for (std::size_t i = 0; other != nullptr && i < row.blocks; ++i) {
-            least[i] = std::min(least[i], other->least[i]);
-            most[i] = std::max(most[i], other->most[i]);
+        if (other != nullptr) {
+            narrowTo(*other, least, most);
         }
     }
-    for (std::size_t i = 0; i < row.blocks; ++i) {
-        const std::size_t left = i == 0 ? 0 : i - 1;
-        const std::size_t right = std::min(i + 1, row.blocks - 1);
-        row.windowLeast[i] = std::min({least[left], least[i], least[right]});
-        row.windowMost[i] = std::max({most[left], most[i], most[right]});
-    }
+    ofThree(
+        least, [](Byte a, Byte b) { return std::min(a, b); }, row.windowLeast);
+    ofThree(
+        most, [](Byte a, Byte b) { return std::max(a, b); }, row.windowMost);
 }
 
 void countSmoothDots(BlockRow& row, const BlockRow* below) {
-    if (!hasAnyContrast(row)) {
-        std::fill(row.smooth.begin(), row.smooth.end(), Byte{0});
-        return;
+    const Lines lines = linesOf(row, below);
+    row.hasSmooth = false;
+    for (std::size_t block = 0; block < row.blocks; block += stripBlocks) {
+        const auto one = smoothLimits(row, block);
+        const auto other = smoothLimits(row, block + 1);
+        ByteVector counts{};
+        if (one[1] != 0 || other[1] != 0) {
+            counts = smoothDotsOfStrip(lines, block * blockDots, limitsOfStrip(one, other));
+            row.hasSmooth = true;
+        }
+        putBlocks(reduceHalves(counts, [](ByteVector a, ByteVector b) { return a + b; }), block,
+                  row.smooth);
     }
-    const SmoothLimits limits = smoothLimits(row);
-    const std::vector<Byte> least = spreadToDots(limits.least, row.stride);
-    const std::vector<Byte> most = spreadToDots(limits.most, row.stride);
-    const std::vector<Byte> tolerance = spreadToDots(limits.tolerance, row.stride);
-    std::vector<Byte> counts(row.stride);
-    for (std::size_t i = 0; i < blockDots; ++i) {
-        const std::array<const Byte*, 2> next{lineBelow(row, i + 1, below),
-                                              lineBelow(row, i + 2, below)};
-        addSmoothDots(row.line(i), next, row.stride, least.data(), most.data(), tolerance.data(),
-                      counts.data());
-    }
-    reduceBlocks(counts, sumOf, row.smooth);
 }
 
 void findContacts(BlockRow& row, const BlockRow* below) {
-    std::vector<Byte> contacts(row.stride);
-    // On bare paper nothing touches, and most of a label is that.
-    const bool isBare = *std::max_element(row.most.begin(), row.most.end()) <= paperTouch;
-    for (std::size_t i = 0; !isBare && i < blockDots; ++i) {
-        addContacts(row.line(i), row.line(i) + 1, row.stride, contacts.data());
+    const Byte* last = row.line(blockDots - 1);
+    const Byte* next = lineBelow(row, blockDots, below);
+    for (std::size_t block = 0; block < row.blocks; block += stripBlocks) {
+        const std::size_t x = block * blockDots;
+        ByteVector right{};
+        ByteVector down{};
+        if (!isBare(row, block)) {
+            right = contactsToTheRight(row, x);
+            down = contact(load(last + x), load(next + x));
+        }
+        // The last dot of each block is the one at the border.
+        row.touchesRight[block] = right[blockDots - 1];
+        if (block + 1 < row.blocks) {
+            row.touchesRight[block + 1] = right[vectorBytes - 1];
+        }
+        putBlocks(reduceHalves(down, [](ByteVector a, ByteVector b) { return a | b; }), block,
+                  row.touchesBelow);
     }
-    for (std::size_t i = 0; i < row.blocks; ++i) {
-        row.touchesRight[i] = contacts[i * blockDots + blockDots - 1];
-    }
-    std::fill(contacts.begin(), contacts.end(), Byte{0});
-    if (below != nullptr) {
-        addContacts(row.line(blockDots - 1), below->line(0), row.stride, contacts.data());
-    }
-    reduceBlocks(contacts, eitherOf, row.touchesBelow);
 }
 
 void Treatments::spreadToDots(std::size_t dots) {

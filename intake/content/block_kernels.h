@@ -8,6 +8,9 @@
 
 namespace intake::content {
 
+/// The least and greatest levels of blocks and those of a row together.
+void narrowTo(const BlockRow& row, PerBlock& least, PerBlock& most);
+
 /// Least and greatest level of each block, from the row's pixels.
 void findExtremes(BlockRow& row);
 
@@ -32,9 +35,17 @@ class Treatments {
 public:
     explicit Treatments(std::size_t blocks) : kept(blocks), threshold(blocks), blackened(blocks) {}
 
+    void leaveAll() { changesAny_ = false; }
+    [[nodiscard]] bool changesAny() const { return changesAny_; }
     void leave(std::size_t block) { set(block, 0xFF, 0, 0); }
-    void make(std::size_t block, std::uint8_t level) { set(block, 0, 0, level); }
-    void cut(std::size_t block, std::uint8_t least) { set(block, 0, least, 0xFF); }
+    void make(std::size_t block, std::uint8_t level) {
+        set(block, 0, 0, level);
+        changesAny_ = true;
+    }
+    void cut(std::size_t block, std::uint8_t least) {
+        set(block, 0, least, 0xFF);
+        changesAny_ = true;
+    }
 
     /// After the last change: for lines of so many dots.
     void spreadToDots(std::size_t dots);
@@ -48,6 +59,7 @@ private:
         blackened[block] = black;
     }
 
+    bool changesAny_ = false;
     PerBlock kept, threshold, blackened;
     std::vector<std::uint8_t> keptOfDots_, thresholdOfDots_, blackenedOfDots_;
 };

@@ -47,10 +47,13 @@ struct BlockRow {
     PerBlock least, most;                 ///< levels of the block
     PerBlock windowLeast, windowMost;     ///< of the block and the eight around it
     PerBlock smooth;                      ///< dots of middle levels without an edge
+    bool hasSmooth = false;               ///< there may be some
     PerBlock touchesRight, touchesBelow;  ///< the next block, with more than paper
     PerBlock isInTint;                    ///< of a square that begins in this row
     /// From the seeds on, and after each spreading.
     std::array<PerBlock, spreads + 1> isContinuous;
+    std::array<bool, spreads + 1> hasContinuous{};
+    bool hasBilevel = false;
     PerBlock isLeft;  ///< to the printer's halftone: continuous, or light beside it
     PerBlock isBilevel;
 };

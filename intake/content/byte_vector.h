@@ -42,4 +42,24 @@ inline ByteVector splat(std::uint8_t value) {
     return ByteVector{} + value;
 }
 
+/// Eight of one byte, then eight of the other.
+inline ByteVector halves(std::uint8_t first, std::uint8_t second) {
+    std::uint8_t bytes[vectorBytes];
+    std::memset(bytes, first, vectorBytes / 2);
+    std::memset(bytes + vectorBytes / 2, second, vectorBytes / 2);
+    return load(bytes);
+}
+
+/// Brings the eight bytes of each half together in the first of them, by an operation on two
+/// vectors in any order.
+template <typename Operation>
+ByteVector reduceHalves(ByteVector bytes, Operation operation) {
+    using Words = std::uint64_t __attribute__((vector_size(16)));
+    for (const int bits : {32, 16, 8}) {
+        const Words words = reinterpret_cast<Words>(bytes) >> bits;
+        bytes = operation(bytes, reinterpret_cast<ByteVector>(words));
+    }
+    return bytes;
+}
+
 }  // namespace intake::content

@@ -56,18 +56,6 @@ void add(const PerBlock& marks, PerBlock& to) {
     }
 }
 
-// The least and greatest levels of two rows.
-void narrowTo(const BlockRow& row, PerBlock& least, PerBlock& most) {
-    const std::uint8_t* __restrict rowLeast = row.least.data();
-    const std::uint8_t* __restrict rowMost = row.most.data();
-    std::uint8_t* __restrict bothLeast = least.data();
-    std::uint8_t* __restrict bothMost = most.data();
-    for (std::size_t i = 0; i < least.size(); ++i) {
-        bothLeast[i] = std::min(bothLeast[i], rowLeast[i]);
-        bothMost[i] = std::max(bothMost[i], rowMost[i]);
-    }
-}
-
 bool hasContrast(const BlockRow& row, std::size_t i) {
     return row.windowMost[i] - row.windowLeast[i] >= leastContrast;
 }
@@ -190,12 +178,25 @@ void ContentSeparation::findSeeds(Index i) {
             add(tints->isInTint, seeds);
         }
     }
-    sumAround(i, [](const BlockRow& other) -> const PerBlock& { return other.smooth; });
-    for (std::size_t block = 0; block < seeds.size(); ++block) {
-        const bool isSmooth = hasContrast(*row, block) && sums_[block] >= fewestSmoothDots;
-        seeds[block] |= isSmooth ? 1 : 0;
+    if (isAnyAround(i, [](const BlockRow& other) { return other.hasSmooth; })) {
+        sumAround(i, [](const BlockRow& other) -> const PerBlock& { return other.smooth; });
+        for (std::size_t block = 0; block < seeds.size(); ++block) {
+            const bool isSmooth = hasContrast(*row, block) && sums_[block] >= fewestSmoothDots;
+            seeds[block] |= isSmooth ? 1 : 0;
+        }
     }
+    row->hasContinuous.front() = hasAny(seeds);
     spreadAlong(row->touchesRight, seeds);
+}
+
+template <typename Predicate>
+bool ContentSeparation::isAnyAround(Index i, Predicate holds) {
+    for (const Index other : {i - 1, i, i + 1}) {
+        if (const BlockRow* row = at(other); row != nullptr && holds(*row)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 // Of each block and the eight around it; blocks outside the page count as 0.
@@ -223,6 +224,12 @@ void ContentSeparation::spread(Index i, std::size_t from) {
     }
     PerBlock& wider = row->isContinuous[from + 1];
     wider = row->isContinuous[from];
+    const bool isAny =
+        isAnyAround(i, [from](const BlockRow& other) { return other.hasContinuous[from]; });
+    row->hasContinuous[from + 1] = isAny;
+    if (!isAny) {
+        return;
+    }
     if (const BlockRow* above = at(i - 1)) {
         spreadOver(above->isContinuous[from], above->touchesBelow, wider);
     }
@@ -250,6 +257,7 @@ void ContentSeparation::decide(Index i) {
         row->isLeft[block] = isLeft ? 1 : 0;
         row->isBilevel[block] =
             !isLeft && hasContrast(*row, block) && row->windowLeast[block] <= darkestPaper ? 1 : 0;
+        row->hasBilevel |= row->isBilevel[block] != 0;
     }
 }
 
@@ -261,7 +269,7 @@ void ContentSeparation::choose(const BlockRow& row, std::size_t block) {
         // The middle itself is light, as it is for the printing filter.
         return treatments_.cut(block, static_cast<std::uint8_t>(middle + 1));
     }
-    if (row.isLeft[block] != 0 || hasContrast(row, block)) {
+    if (row.isLeft[block] != 0 || row.most[block] == 0 || hasContrast(row, block)) {
         return treatments_.leave(block);
     }
     const bool isNoise = row.windowMost[block] <= noiseMost && sums_[block] > 0;
@@ -277,14 +285,28 @@ void ContentSeparation::putOut(Index i) {
     if (row == nullptr) {
         return;
     }
-    sumAround(i, [](const BlockRow& other) -> const PerBlock& { return other.isBilevel; });
+    if (isAnyAround(i, [](const BlockRow& other) { return other.hasBilevel; })) {
+        sumAround(i, [](const BlockRow& other) -> const PerBlock& { return other.isBilevel; });
+    } else {
+        std::fill(sums_.begin(), sums_.end(), std::uint16_t{0});
+    }
+    treatments_.leaveAll();
     for (std::size_t block = 0; block < row->blocks; ++block) {
         choose(*row, block);
     }
-    treatments_.spreadToDots(row->stride);
-    for (std::size_t line = 0; line < row->lines; ++line) {
-        treatments_.treat(row->line(line), result_.data());
-        sink_({result_.data(), page_.columns});
+    putOutLines(*row);
+}
+
+void ContentSeparation::putOutLines(const BlockRow& row) {
+    const bool changes = treatments_.changesAny();
+    if (changes) {
+        treatments_.spreadToDots(row.stride);
+    }
+    for (std::size_t line = 0; line < row.lines; ++line) {
+        if (changes) {
+            treatments_.treat(row.line(line), result_.data());
+        }
+        sink_({changes ? result_.data() : row.line(line), page_.columns});
     }
 }
 

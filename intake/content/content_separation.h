@@ -51,10 +51,13 @@ private:
     void step(Index newest);
     void findTints(Index i);
     void findSeeds(Index i);
+    template <typename Predicate>
+    bool isAnyAround(Index i, Predicate holds);
     void sumAround(Index i, const PerBlock& (*valuesOf)(const BlockRow&));
     void spread(Index i, std::size_t from);
     void decide(Index i);
     void putOut(Index i);
+    void putOutLines(const BlockRow& row);
     void choose(const BlockRow& row, std::size_t block);
 
     PageShape page_;

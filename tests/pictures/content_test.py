@@ -6,7 +6,8 @@ import subprocess
 import content_documents
 from code_pictures import burnt, grown, label_bits, png_of_bits
 from content_documents import CODES, COLOURS, document, page
-from document_run import printed, raster_of
+import document_run
+from document_run import filter_folder, printed, raster_of
 from picture_run import Faults, write
 
 AS_IT_IS = 'Content=AsItIs HalftoneType=None'
@@ -119,3 +120,27 @@ def tints_are_shaded_evenly():
         dots = sum(label.burns(x, y) for y in range(top, bottom) for x in range(left, right))
         share = dots / (right - left) / (bottom - top)
         assert 0.28 < share < 0.32, share
+
+
+def a_missing_program_is_named():
+    """And is not missed where nothing is to be separated."""
+    folder = filter_folder()
+    os.unlink(f'{folder}/filter/rastertokestocontent')
+    sheet = document([page(CODES, 3, COLOURS['red'])])
+    status, stream, lines = document_run.document(sheet, server_bin=folder)
+    assert status == 1 and stream == b'' and len(lines) == 1 and 'rastertokestocontent' in lines[0], lines
+    assert document_run.document(sheet, 'Content=AsItIs', server_bin=folder)[0] == 0
+
+
+def a_failing_separation_fails_the_job():
+    sheet = document([page(CODES, 3, COLOURS['red'])])
+    for script, said in (('cat >/dev/null; exit 3', 'status 3'), ('cat; exit 3', 'status 3'),
+                         ('head -c 50000; kill -9 $$', 'signal 9')):
+        folder = filter_folder()
+        os.unlink(f'{folder}/filter/rastertokestocontent')
+        with open(f'{folder}/filter/rastertokestocontent', 'w', encoding='ascii') as file:
+            file.write(f'#!/bin/sh\n{script}\n')
+        os.chmod(f'{folder}/filter/rastertokestocontent', 0o755)
+        status, _, lines = document_run.document(sheet, server_bin=folder)
+        errors = [line for line in lines if line.startswith('ERROR')]
+        assert status == 1 and errors and said in errors[-1], (script, status, lines)
