@@ -103,7 +103,21 @@ bool isBare(const BlockRow& row, std::size_t block) {
            (block + 1 >= row.blocks || row.most[block + 1] <= paperTouch);
 }
 
-ByteVector contactsToTheRight(const BlockRow& row, std::size_t x) {
+// Within photographs and tints everything touches.
+bool isAllShaded(const BlockRow& row, std::size_t block, std::size_t end) {
+    bool isShaded = true;
+    for (std::size_t i = block; i < std::min(end, row.blocks); ++i) {
+        isShaded = isShaded && row.least[i] > lightTouch && row.most[i] < blackTouch;
+    }
+    return isShaded;
+}
+
+ByteVector contactsToTheRight(const BlockRow& row, std::size_t block) {
+    // Also with the first block behind the strip.
+    if (isAllShaded(row, block, block + stripBlocks + 1)) {
+        return splat(0xFF);
+    }
+    const std::size_t x = block * blockDots;
     ByteVector contacts{};
     for (std::size_t i = 0; i < blockDots; ++i) {
         contacts |= contact(load(row.line(i) + x), load(row.line(i) + x + 1));
@@ -197,7 +211,7 @@ void findContacts(BlockRow& row, const BlockRow* below) {
         ByteVector right{};
         ByteVector down{};
         if (!isBare(row, block)) {
-            right = contactsToTheRight(row, x);
+            right = contactsToTheRight(row, block);
             down = contact(load(last + x), load(next + x));
         }
         // The last dot of each block is the one at the border.
