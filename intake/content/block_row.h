@@ -25,7 +25,7 @@ struct BlockRow {
           stride((columns + vectorBytes - 1) / vectorBytes * vectorBytes),
           pixels(blockDots * pitch()) {
         for (PerBlock* values : {&least, &most, &windowLeast, &windowMost, &smooth, &touchesRight,
-                                 &touchesBelow, &isInTint, &isLeft, &isBilevel}) {
+                                 &touchesBelow, &isInTint, &isLeft}) {
             values->resize(blocks);
         }
         for (PerBlock& values : isContinuous) {
@@ -53,9 +53,7 @@ struct BlockRow {
     /// From the seeds on, and after each spreading.
     std::array<PerBlock, spreads + 1> isContinuous;
     std::array<bool, spreads + 1> hasContinuous{};
-    bool hasBilevel = false;
     PerBlock isLeft;  ///< to the printer's halftone: continuous, or light beside it
-    PerBlock isBilevel;
 };
 
 }  // namespace intake::content

@@ -65,6 +65,15 @@ bool isTint(int least, int most) {
            (most - least <= evenRange && least > lightestEvenTint);
 }
 
+bool hasAnyTint(const PerBlock& least, const PerBlock& most) {
+    for (std::size_t i = 0; i < least.size(); ++i) {
+        if (isTint(least[i], most[i])) {
+            return true;
+        }
+    }
+    return false;
+}
+
 // Of squares, from the levels of their columns.
 void markTints(const PerBlock& least, const PerBlock& most, std::size_t edge, PerBlock& isInTint) {
     std::size_t flat = 0;  // columns up to here, each by itself
@@ -89,7 +98,7 @@ ContentSeparation::ContentSeparation(const PageShape& page, RowSink sink)
       blockRows_(static_cast<Index>((page.rows + blockDots - 1) / blockDots)),
       tintBlocks_(blocksOfTint(page.dpi)),
       seedDelay_(std::max<Index>(2, static_cast<Index>(tintBlocks_) - 1)),
-      delay_(seedDelay_ + static_cast<Index>(spreads) + 2),
+      delay_(seedDelay_ + static_cast<Index>(spreads) + 1),
       ring_(static_cast<std::size_t>(delay_) + 2, BlockRow(page.columns)),
       columnSums_(ring_.front().blocks + 2),
       sums_(ring_.front().blocks),
@@ -144,7 +153,7 @@ void ContentSeparation::step(Index newest) {
         spread(--ready, i);
     }
     decide(--ready);
-    putOut(--ready);
+    putOut(ready);
 }
 
 // Marks the blocks of all squares of one level whose first row this is.
@@ -155,7 +164,7 @@ void ContentSeparation::findTints(Index i) {
     }
     std::fill(row->isInTint.begin(), row->isInTint.end(), std::uint8_t{0});
     const auto edge = static_cast<Index>(tintBlocks_);
-    if (at(i + edge - 1) == nullptr) {
+    if (at(i + edge - 1) == nullptr || !hasAnyTint(row->least, row->most)) {
         return;
     }
     PerBlock least = row->least;
@@ -255,29 +264,51 @@ void ContentSeparation::decide(Index i) {
             around > 0 && row->most[block] > paperMost && row->most[block] < lightMost;
         const bool isLeft = isContinuous || around >= mostOfNeighbours || isLightPart;
         row->isLeft[block] = isLeft ? 1 : 0;
-        row->isBilevel[block] =
-            !isLeft && hasContrast(*row, block) && row->windowLeast[block] <= darkestPaper ? 1 : 0;
-        row->hasBilevel |= row->isBilevel[block] != 0;
     }
 }
 
-// With the sums of bilevel blocks.
-void ContentSeparation::choose(const BlockRow& row, std::size_t block) {
-    if (row.isBilevel[block] != 0) {
-        const int least = row.windowLeast[block];
-        const int middle = least + (row.windowMost[block] - least + 1) / 2;
-        // The middle itself is light, as it is for the printing filter.
-        return treatments_.cut(block, static_cast<std::uint8_t>(middle + 1));
+// The middle itself is light, as it is for the printing filter.
+bool ContentSeparation::cut(std::size_t block, int least, int most) {
+    if (most - least < leastContrast || least > darkestPaper) {
+        return false;
     }
-    if (row.isLeft[block] != 0 || row.most[block] == 0 || hasContrast(row, block)) {
-        return treatments_.leave(block);
+    const int middle = least + (most - least + 1) / 2;
+    treatments_.cut(block, static_cast<std::uint8_t>(middle + 1));
+    return true;
+}
+
+// Inside thick strokes, and on paper beside text, the contrast is that of the windows around.
+bool ContentSeparation::cutAsAround(Index i, std::size_t block) {
+    const BlockRow& row = *at(i);
+    const std::size_t first = block == 0 ? 0 : block - 1;
+    const std::size_t last = std::min(block + 1, row.blocks - 1);
+    int least = 0xFF;
+    int most = 0;
+    for (const Index other : {i - 1, i, i + 1}) {
+        const BlockRow* around = at(other);
+        for (std::size_t j = first; around != nullptr && j <= last; ++j) {
+            least = std::min<int>(least, around->windowLeast[j]);
+            most = std::max<int>(most, around->windowMost[j]);
+        }
     }
-    const bool isNoise = row.windowMost[block] <= noiseMost && sums_[block] > 0;
-    if (row.most[block] <= paperMost || isNoise) {
-        return treatments_.make(block, 0);
+    return cut(block, least, most);
+}
+
+void ContentSeparation::choose(Index i, std::size_t block) {
+    const BlockRow& row = *at(i);
+    treatments_.leave(block);
+    if (row.isLeft[block] != 0 || row.most[block] == 0) {
+        return;
     }
-    return row.least[block] >= blackLeast ? treatments_.make(block, 0xFF)
-                                          : treatments_.leave(block);
+    if (hasContrast(row, block)) {
+        cut(block, row.windowLeast[block], row.windowMost[block]);
+    } else if (cutAsAround(i, block)) {
+        return;
+    } else if (row.most[block] <= paperMost) {
+        treatments_.make(block, 0);
+    } else if (row.least[block] >= blackLeast) {
+        treatments_.make(block, 0xFF);
+    }
 }
 
 void ContentSeparation::putOut(Index i) {
@@ -285,14 +316,9 @@ void ContentSeparation::putOut(Index i) {
     if (row == nullptr) {
         return;
     }
-    if (isAnyAround(i, [](const BlockRow& other) { return other.hasBilevel; })) {
-        sumAround(i, [](const BlockRow& other) -> const PerBlock& { return other.isBilevel; });
-    } else {
-        std::fill(sums_.begin(), sums_.end(), std::uint16_t{0});
-    }
     treatments_.leaveAll();
     for (std::size_t block = 0; block < row->blocks; ++block) {
-        choose(*row, block);
+        choose(i, block);
     }
     putOutLines(*row);
 }

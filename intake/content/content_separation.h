@@ -58,7 +58,9 @@ private:
     void decide(Index i);
     void putOut(Index i);
     void putOutLines(const BlockRow& row);
-    void choose(const BlockRow& row, std::size_t block);
+    bool cut(std::size_t block, int least, int most);
+    bool cutAsAround(Index i, std::size_t block);
+    void choose(Index i, std::size_t block);
 
     PageShape page_;
     RowSink sink_;

@@ -23,8 +23,9 @@ inline constexpr int lightestTint = 24;
 /// Tints that are lighter are taken for noise unless they are as even as only drawings are.
 inline constexpr int evenRange = 2;
 inline constexpr int lightestEvenTint = 6;
-/// Edge of the smallest square of a tint in mm: wider than modules of codes and strokes of letters.
-inline constexpr double tintEdge = 2;
+/// Edge of the smallest square of a tint in mm: wider than the bars of codes and strokes of
+/// letters, and less than the rows of tables.
+inline constexpr double tintEdge = 4;
 
 /// Blocks touch with levels between these two, or with levels that are alike and above the third.
 inline constexpr int lightTouch = 32;
@@ -36,10 +37,8 @@ inline constexpr int mostOfNeighbours = 5;
 /// Beside what is continuous, a block of levels up to this is a light part of it.
 inline constexpr int lightMost = 48;
 
-/// Where nothing is to be told apart: levels that are paper, those that are paper beside bilevel
-/// content, and those that are black.
+/// Where nothing is to be told apart: levels that are paper, and those that are black.
 inline constexpr int paperMost = 6;
-inline constexpr int noiseMost = 24;
 inline constexpr int blackLeast = 232;
 
 }  // namespace intake::content

@@ -18,15 +18,18 @@ public:
           columns_(static_cast<int>(levels.front().size())),
           high_((rows_ + edge - 1) / edge),
           wide_((columns_ + edge - 1) / edge),
-          tint_(std::max(2, static_cast<int>(std::lround(2 * dpi / 25.4 / edge)))) {
+          tint_(std::max(2, static_cast<int>(std::lround(4 * dpi / 25.4 / edge)))) {
         const std::vector<int> none(at(wide_));
-        least_ = most_ = windowLeast_ = windowMost_ = Levels(at(high_), none);
+        least_ = most_ = windowLeast_ = windowMost_ = wideLeast_ = wideMost_ =
+            Levels(at(high_), none);
         for (int row = 0; row < high_; ++row) {
             for (int column = 0; column < wide_; ++column) {
                 least_[at(row)][at(column)] = extreme(row, column, 1, true);
                 most_[at(row)][at(column)] = extreme(row, column, 1, false);
                 windowLeast_[at(row)][at(column)] = extreme(row - 1, column - 1, 3, true);
                 windowMost_[at(row)][at(column)] = extreme(row - 1, column - 1, 3, false);
+                wideLeast_[at(row)][at(column)] = extreme(row - 2, column - 2, 5, true);
+                wideMost_[at(row)][at(column)] = extreme(row - 2, column - 2, 5, false);
             }
         }
     }
@@ -219,31 +222,22 @@ private:
         return left;
     }
 
-    bool isBilevel(int row, int column, const Marks& left) const {
-        return isBlock(row, column) && !left[at(row)][at(column)] && hasContrast(row, column) &&
-               windowLeast(row, column) <= 48;
-    }
-
-    bool isBesideBilevel(int row, int column, const Marks& left) const {
-        bool found = false;
-        for (int i = 0; i < 9; ++i) {
-            found = found || isBilevel(row + i / 3 - 1, column + i % 3 - 1, left);
-        }
-        return found;
-    }
-
     int dot(int y, int x, const Marks& left) const {
         const int row = y / edge;
         const int column = x / edge;
-        if (isBilevel(row, column, left)) {
-            const int middle = windowLeast(row, column) + (range(row, column) + 1) / 2;
-            return level(y, x) > middle ? 255 : 0;
-        }
-        if (left[at(row)][at(column)] || hasContrast(row, column)) {
+        if (left[at(row)][at(column)]) {
             return level(y, x);
         }
-        if (most(row, column) <= 6 ||
-            (windowMost(row, column) <= 24 && isBesideBilevel(row, column, left))) {
+        const bool isFlat = !hasContrast(row, column);
+        const int low = (isFlat ? wideLeast_ : windowLeast_)[at(row)][at(column)];
+        const int high = (isFlat ? wideMost_ : windowMost_)[at(row)][at(column)];
+        if (high - low >= 24 && low <= 48) {
+            return level(y, x) > low + (high - low + 1) / 2 ? 255 : 0;
+        }
+        if (!isFlat) {
+            return level(y, x);
+        }
+        if (most(row, column) <= 6) {
             return 0;
         }
         return least(row, column) >= 232 ? 255 : level(y, x);
@@ -253,7 +247,7 @@ private:
     int rows_, columns_;
     int high_, wide_;
     int tint_;
-    Levels least_, most_, windowLeast_, windowMost_;
+    Levels least_, most_, windowLeast_, windowMost_, wideLeast_, wideMost_;
 };
 
 }  // namespace

@@ -31,6 +31,18 @@ TEST(ContentSeparation, MakesCodesOfEveryColourBlack) {
     }
 }
 
+TEST(ContentSeparation, MakesCodesWithLargeModulesBlack) {
+    // 8 dots, 1 mm, wherever they lie: squares of three modules, and bars of four.
+    for (int place = 0; place < 8; ++place) {
+        TestPage page(200, 120);
+        page.fill(20 + place, 20 + place, 56, 56, 105);
+        page.fill(28 + place, 28 + place, 40, 40, 0);
+        page.fill(36 + place, 36 + place, 24, 24, 105);
+        page.drawBars(110 + place, 20, 80, {16, 8, 16, 4, 12, 12}, 105);
+        EXPECT_EQ(separated(page), blackWhere(page, 105)) << place;
+    }
+}
+
 TEST(ContentSeparation, TakesTheMiddleOfTheLevelsForLight) {
     TestPage page(100, 40);
     page.drawBars(20, 10, 20, bars, 255);
