@@ -19,7 +19,7 @@ install(FILES packaging/printer-driver-kesto-tspl.ppd-updater
 install(FILES docs/man/tsplpreview.1 docs/man/kesto-tspl-size.1
     DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES docs/man/documenttokestotspl.8 docs/man/kesto-tspl-clean.8
-    docs/man/picturetokestolabel.8 docs/man/rastertokestotspl.8 docs/man/tsplstatus.8
+    docs/man/picturetokestolabel.8 docs/man/rastertokestocontent.8 docs/man/rastertokestotspl.8 docs/man/tsplstatus.8
     DESTINATION ${CMAKE_INSTALL_MANDIR}/man8)
 install(FILES packaging/org.kesto.kesto_tspl.metainfo.xml
     DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
