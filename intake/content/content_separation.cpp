@@ -98,7 +98,7 @@ ContentSeparation::ContentSeparation(const PageShape& page, RowSink sink)
       blockRows_(static_cast<Index>((page.rows + blockDots - 1) / blockDots)),
       tintBlocks_(blocksOfTint(page.dpi)),
       seedDelay_(std::max<Index>(2, static_cast<Index>(tintBlocks_) - 1)),
-      delay_(seedDelay_ + static_cast<Index>(spreads) + 1),
+      delay_(seedDelay_ + static_cast<Index>(spreads) + 2),
       ring_(static_cast<std::size_t>(delay_) + 2, BlockRow(page.columns)),
       columnSums_(ring_.front().blocks + 2),
       sums_(ring_.front().blocks),
@@ -153,7 +153,7 @@ void ContentSeparation::step(Index newest) {
         spread(--ready, i);
     }
     decide(--ready);
-    putOut(ready);
+    putOut(--ready);
 }
 
 // Marks the blocks of all squares of one level whose first row this is.
@@ -277,7 +277,8 @@ bool ContentSeparation::cut(std::size_t block, int least, int most) {
     return true;
 }
 
-// Inside thick strokes, and on paper beside text, the contrast is that of the windows around.
+// Inside thick strokes, and on paper beside text, the contrast is that of the windows around;
+// beside something continuous it may be that one's.
 bool ContentSeparation::cutAsAround(Index i, std::size_t block) {
     const BlockRow& row = *at(i);
     const std::size_t first = block == 0 ? 0 : block - 1;
@@ -287,6 +288,9 @@ bool ContentSeparation::cutAsAround(Index i, std::size_t block) {
     for (const Index other : {i - 1, i, i + 1}) {
         const BlockRow* around = at(other);
         for (std::size_t j = first; around != nullptr && j <= last; ++j) {
+            if (around->isLeft[j] != 0) {
+                return false;
+            }
             least = std::min<int>(least, around->windowLeast[j]);
             most = std::max<int>(most, around->windowMost[j]);
         }

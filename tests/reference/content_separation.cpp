@@ -231,7 +231,8 @@ private:
         const bool isFlat = !hasContrast(row, column);
         const int low = (isFlat ? wideLeast_ : windowLeast_)[at(row)][at(column)];
         const int high = (isFlat ? wideMost_ : windowMost_)[at(row)][at(column)];
-        if (high - low >= 24 && low <= 48) {
+        const bool isBesideLeft = isFlat && marksAround(left, row, column) > 0;
+        if (!isBesideLeft && high - low >= 24 && low <= 48) {
             return level(y, x) > low + (high - low + 1) / 2 ? 255 : 0;
         }
         if (!isFlat) {
