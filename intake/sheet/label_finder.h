@@ -1,0 +1,17 @@
+#pragma once
+
+#include <vector>
+
+#include "intake/sheet/ink_map.h"
+#include "sizes/dot_grid.h"
+
+namespace intake::sheet {
+
+/// Finds the labels on a page, in the order in which they are read: frames, and blocks of ink that
+/// are set apart by white, of the shape and size that fitOf takes for a label. What is returned is
+/// where to cut, around the ink by a little of the white beside it, as far as there is any and the
+/// part does not become larger than the label by that. What touches a frame from outside is not in
+/// it. Nothing when nothing like a label is there.
+std::vector<Rectangle> findLabels(const GreyPage& page, const sizes::PointSize& label);
+
+}  // namespace intake::sheet
