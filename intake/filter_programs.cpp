@@ -44,6 +44,9 @@ FilterPrograms findPrograms(const ProgramNeeds& needs) {
     if (needs.kind == DocumentKind::Picture) {
         require(programs, "picturetokestolabel");
     }
+    if (needs.cutsLabels) {
+        require(programs, "pdftokestolabels");
+    }
     if (needs.isLaidOut) {
         require(programs, "pdftopdf");
         programs.converter = findConverter(programs);

@@ -19,6 +19,7 @@ struct ProgramNeeds {
     DocumentKind kind;
     bool isLaidOut;         ///< pages are laid out and converted
     bool separatesContent;  ///< text and the like are told from pictures
+    bool cutsLabels;        ///< labels are found on pages and cut out
 };
 
 /// Looks for those that a job needs below $CUPS_SERVERBIN or where CUPS was installed. Throws

@@ -5,6 +5,7 @@
 
 #include "intake/conversion.h"
 #include "intake/picture_road.h"
+#include "intake/sheet_command.h"
 #include "intake/step_options.h"
 #include "sizes/job_description.h"
 
@@ -19,16 +20,20 @@ public:
         : plan_(plan),
           folder_(folder),
           supervisor_(supervisor),
-          options_(stepOptions(plan.options, plan.label, isPicture())),
+          options_(optionsOf(plan)),
           layoutDescription_(describe("layout.ppd", sizes::JobStep::Layout)) {}
 
-    void print() {
-        const std::string document = isPicture() ? makePdf() : plan_.document.path;
-        convert(layOut(document));
-    }
+    void print() { convert(layOut(makePdf())); }
 
 private:
-    bool isPicture() const { return plan_.document.kind == DocumentKind::Picture; }
+    static bool isPicture(const RoadPlan& plan) {
+        return plan.document.kind == DocumentKind::Picture;
+    }
+
+    static StepOptions optionsOf(const RoadPlan& plan) {
+        const StepOptions steps = stepOptions(plan.options, plan.label, isPicture(plan));
+        return plan.isSheet ? withSheets(steps) : steps;
+    }
 
     std::string describe(std::string_view name, sizes::JobStep step) const {
         return folder_.write(name, sizes::jobDescription(plan_.description, plan_.label.page,
@@ -36,10 +41,24 @@ private:
     }
 
     std::string makePdf() {
+        if (isPicture(plan_)) {
+            return makePdfOfPicture();
+        }
+        return plan_.isSheet ? cutLabels() : plan_.document.path;
+    }
+
+    std::string makePdfOfPicture() {
         std::string picture = folder_.pathOf("picture.pdf");
         convertToFile(pictureCommand(plan_, options_.picture, true, folder_), picture, {}, folder_,
                       supervisor_);
         return picture;
+    }
+
+    std::string cutLabels() {
+        std::string labels = folder_.pathOf("labels.pdf");
+        convertToFile(sheetCommand(plan_, options_.sheet, folder_), labels, {}, folder_,
+                      supervisor_);
+        return labels;
     }
 
     // Poppler's converter learns the number of copies from a file only.

@@ -6,7 +6,8 @@
 
 namespace intake {
 
-/// Prints a PDF file, or a picture whose pages are laid out further, with CUPS's own filters:
+/// Prints a PDF file, the labels that pdftokestolabels finds on its pages, or a picture whose pages
+/// are laid out further, with CUPS's own filters:
 /// pdftopdf, gstoraster or pdftoraster, and then rastertokestotspl, which is not started before
 /// there is a page for it. Throws JobFailure with the name of the program that failed first.
 void printPages(const RoadPlan& plan, const TemporaryFolder& folder, Supervisor& supervisor);

@@ -10,6 +10,7 @@
 #include "intake/known_media.h"
 #include "intake/page_road.h"
 #include "intake/picture_road.h"
+#include "intake/queue_choice.h"
 #include "intake/raster_road.h"
 #include "intake/spooler.h"
 #include "intake/step_options.h"
@@ -48,9 +49,12 @@ void PrintJob::readQueue() {
 }
 
 void PrintJob::findPrograms() {
-    const bool isLaidOut = document_.kind == DocumentKind::Pdf ||
-                           (document_.kind == DocumentKind::Picture && needsLayout(options_));
-    programs_ = intake::findPrograms({document_.kind, isLaidOut, queue_.separatesContent});
+    const bool isPdf = document_.kind == DocumentKind::Pdf;
+    const bool isLaidOut =
+        isPdf || (document_.kind == DocumentKind::Picture && needsLayout(options_));
+    isSheet_ = isPdf && findsLabels(description_, options_);
+    programs_ =
+        intake::findPrograms({document_.kind, isLaidOut, queue_.separatesContent, isSheet_});
 }
 
 void PrintJob::chooseLabel() {
@@ -65,7 +69,8 @@ void PrintJob::chooseLabel() {
 
 void PrintJob::print() {
     const RoadPlan plan{arguments_,   document_, programs_,  options_,
-                        description_, label_,    queue_.dpi, queue_.separatesContent};
+                        description_, label_,    queue_.dpi, queue_.separatesContent,
+                        isSheet_};
     if (document_.kind == DocumentKind::Raster) {
         return printRaster(plan, folder_, supervisor_);
     }

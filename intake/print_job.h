@@ -36,6 +36,8 @@ private:
     std::string description_;
     QueueDescription queue_;
     Label label_;
+    // Whether labels are looked for on the document's pages.
+    bool isSheet_ = false;
 };
 
 }  // namespace intake

@@ -22,6 +22,7 @@ struct RoadPlan {
     const Label& label;
     int dpi;
     bool separatesContent;  ///< text and the like from pictures
+    bool isSheet;           ///< labels are found on the document's pages and cut out
 };
 
 /// What one program of a job is told.

@@ -125,10 +125,20 @@ StepOptions stepOptions(const OptionList& job, const Label& label, bool isPictur
     const OptionList paged = withPage(job, label);
     const OptionList placed = withoutLayout(paged);
     StepOptions steps{pictureOptions(job),
+                      {},
                       isPicture ? asItIs(withoutPlacement(paged)) : withFitting(paged),
                       withoutPages(placed)};
     if (label.isSquare()) {
         steps.layout.set("pdfAutoRotate", "false");
+    }
+    return steps;
+}
+
+StepOptions withSheets(StepOptions steps) {
+    constexpr std::array selection{"page-ranges"sv, "page-set"sv};
+    copy(steps.layout, selection, steps.sheet);
+    for (const std::string_view name : selection) {
+        steps.layout.remove(name);
     }
     return steps;
 }

@@ -10,6 +10,7 @@ namespace intake {
 /// The options of a job for each of the programs that print it.
 struct StepOptions {
     OptionList picture;  ///< picturetokestolabel: what places a picture and chooses pages
+    OptionList sheet;    ///< pdftokestolabels: what chooses pages
     OptionList layout;   ///< pdftopdf
     OptionList laidOut;  ///< all behind it, for which nothing is left to lay out
 };
@@ -25,6 +26,10 @@ struct StepOptions {
 /// - A picture comes to pdftopdf as pages of the label's size, which need no more turning, and
 ///   none of them has been left out yet.
 StepOptions stepOptions(const OptionList& job, const Label& label, bool isPicture);
+
+/// The same for a document whose pages pdftokestolabels cuts labels out of: it has to choose among
+/// the pages, since all that come out of it are labels.
+StepOptions withSheets(StepOptions steps);
 
 /// Whether a picture's pages have to be laid out further: several on a label, as a booklet, with
 /// a border or a text, or the last one first.

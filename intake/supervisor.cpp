@@ -157,8 +157,8 @@ void Supervisor::waitForEnd(pid_t child) {
 
 bool Supervisor::hasSaidWhy(pid_t child) const {
     const Child& ended = childOf(child);
-    return ended.name == "picturetokestolabel" && WIFEXITED(ended.status) &&
-           WEXITSTATUS(ended.status) == EXIT_FAILURE;
+    const bool isOurs = ended.name == "picturetokestolabel" || ended.name == "pdftokestolabels";
+    return isOurs && WIFEXITED(ended.status) && WEXITSTATUS(ended.status) == EXIT_FAILURE;
 }
 
 std::string Supervisor::fateOf(pid_t child) const {

@@ -4,9 +4,9 @@
 #include <exception>
 
 #include "intake/job_failure.h"
+#include "intake/memory_bound.h"
 #include "intake/picture/command_line.h"
 #include "intake/picture/decoder.h"
-#include "intake/picture/memory_bound.h"
 #include "intake/picture/picture_job.h"
 
 /// Places a picture on labels: `picturetokestolabel --dots WIDTHxHEIGHT --dpi N ... FILE`. Writes
@@ -19,7 +19,7 @@ int main(int argc, char* argv[]) {
         return EXIT_FAILURE;
     }
     try {
-        picture::boundMemory();
+        boundMemory();
         picture::startDecoder();
         picture::printPictures(*line, STDOUT_FILENO);
         return EXIT_SUCCESS;

@@ -13,8 +13,8 @@
 #include "intake/picture/decoder.h"
 #include "intake/picture/library_problem.h"
 #include "intake/picture/mapped_file.h"
-#include "intake/picture/quiet_errors.h"
 #include "intake/picture/tiff_chain.h"
+#include "intake/quiet_errors.h"
 
 namespace intake::picture {
 namespace {

@@ -1,4 +1,4 @@
-#include "intake/picture/memory_bound.h"
+#include "intake/memory_bound.h"
 
 #include <sys/resource.h>
 
@@ -8,7 +8,7 @@
 #endif
 #endif
 
-namespace intake::picture {
+namespace intake {
 
 void boundMemory() {
 #if !defined(KESTO_SANITIZED) && !defined(__SANITIZE_ADDRESS__)
@@ -21,4 +21,4 @@ void boundMemory() {
 #endif
 }
 
-}  // namespace intake::picture
+}  // namespace intake

@@ -1,9 +1,9 @@
-#include "intake/picture/quiet_errors.h"
+#include "intake/quiet_errors.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace intake::picture {
+namespace intake {
 
 QuietErrors::QuietErrors() : before_(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0)) {
     const Descriptor nothing(open("/dev/null", O_WRONLY | O_CLOEXEC));
@@ -18,4 +18,4 @@ QuietErrors::~QuietErrors() {
     }
 }
 
-}  // namespace intake::picture
+}  // namespace intake

@@ -2,7 +2,7 @@
 
 #include "intake/descriptor.h"
 
-namespace intake::picture {
+namespace intake {
 
 /// While it lives nothing that is written to standard error is seen: libraries write remarks of
 /// their own there, without the level that the scheduler's log wants, and what matters they tell
@@ -18,4 +18,4 @@ private:
     Descriptor before_;
 };
 
-}  // namespace intake::picture
+}  // namespace intake

@@ -1,0 +1,70 @@
+#include "intake/sheet/label_page.h"
+
+#include <qpdf/QPDFPageObjectHelper.hh>
+
+#include <initializer_list>
+#include <string>
+#include <utility>
+
+#include "sizes/nominal_size.h"
+
+namespace intake::sheet {
+namespace {
+
+constexpr int sDecimals = 5;
+
+QPDFObjectHandle number(double value) {
+    return QPDFObjectHandle::newReal(value, sDecimals);
+}
+
+QPDFObjectHandle box(double left, double bottom, double right, double top) {
+    auto array = QPDFObjectHandle::newArray();
+    for (const double edge : {left, bottom, right, top}) {
+        array.appendItem(number(edge));
+    }
+    return array;
+}
+
+std::string words(std::initializer_list<double> numbers) {
+    std::string text;
+    for (const double value : numbers) {
+        text += sizes::lengthText(value, sDecimals) + " ";
+    }
+    return text;
+}
+
+std::pair<double, double> sidesOf(const LabelCut& label) {
+    const std::pair sides(label.place.width(), label.place.height());
+    return label.quarters % 2 == 0 ? sides : std::pair(sides.second, sides.first);
+}
+
+std::string contentOf(const LabelCut& label) {
+    const auto [width, height] = sidesOf(label);
+    const Matrix m = toSeen(label.page) * toLabel(label.place, label.quarters);
+    return "q " + words({0, 0, width, height}) + "re W n " + words({m.a, m.b, m.c, m.d, m.e, m.f}) +
+           "cm /Sheet Do Q\n";
+}
+
+}  // namespace
+
+QPDFObjectHandle formOfPage(QPDFObjectHandle page, const PageView& view) {
+    QPDFObjectHandle form = QPDFPageObjectHelper(std::move(page)).getFormXObjectForPage(false);
+    form.getDict().replaceKey("/BBox", box(view.left, view.bottom, view.right, view.top));
+    return form;
+}
+
+QPDFObjectHandle makeLabelPage(QPDF& pdf, const QPDFObjectHandle& form, const LabelCut& label) {
+    const auto [width, height] = sidesOf(label);
+    auto objects = QPDFObjectHandle::newDictionary();
+    objects.replaceKey("/Sheet", form);
+    auto resources = QPDFObjectHandle::newDictionary();
+    resources.replaceKey("/XObject", objects);
+    auto page = QPDFObjectHandle::newDictionary();
+    page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
+    page.replaceKey("/MediaBox", box(0, 0, width, height));
+    page.replaceKey("/Resources", resources);
+    page.replaceKey("/Contents", QPDFObjectHandle::newStream(&pdf, contentOf(label)));
+    return pdf.makeIndirectObject(page);
+}
+
+}  // namespace intake::sheet
