@@ -30,7 +30,7 @@ public:
         if (a.fit.isWithin != b.fit.isWithin) {
             return a.fit.isWithin;
         }
-        if (!a.isFrame && shapeSteps(a) != shapeSteps(b)) {
+        if (!a.isFrame() && shapeSteps(a) != shapeSteps(b)) {
             return shapeSteps(a) < shapeSteps(b);
         }
         return a.extent.area() > b.extent.area();
@@ -39,8 +39,8 @@ public:
 private:
     int rank(const Candidate& candidate) const {
         const bool isBorder = 4 * candidate.extent.area() > 3 * pageArea_;
-        if (candidate.isFrame && (candidate.fit.isOwnSize || !isBorder)) {
-            return 2;
+        if (candidate.isFrame() && (candidate.fit.isOwnSize || !isBorder)) {
+            return candidate.kind == Candidate::Kind::Frame ? 3 : 2;
         }
         return candidate.fit.isOwnSize ? 1 : 0;
     }
@@ -74,6 +74,23 @@ bool isSheet(const Candidate& candidate, const std::vector<Candidate>& ordered) 
     return chooseInOrder(inside).size() > 1;
 }
 
+bool isFieldOf(const DotRectangle& inner, const DotRectangle& outer) {
+    return inner != outer && isWithin(inner, outer) &&
+           (inner.left == outer.left || inner.top == outer.top || inner.right == outer.right ||
+            inner.bottom == outer.bottom);
+}
+
+std::vector<Candidate> withoutFields(const std::vector<Candidate>& ordered) {
+    std::vector<Candidate> kept;
+    std::ranges::copy_if(ordered, std::back_inserter(kept), [&](const Candidate& candidate) {
+        return std::ranges::none_of(ordered, [&](const Candidate& other) {
+            return other.kind == Candidate::Kind::Frame && candidate.isFrame() &&
+                   isFieldOf(candidate.extent, other.extent);
+        });
+    });
+    return kept;
+}
+
 }  // namespace
 
 std::vector<Candidate> chooseAmong(std::vector<Candidate> candidates, std::int64_t pageArea) {
@@ -84,7 +101,7 @@ std::vector<Candidate> chooseAmong(std::vector<Candidate> candidates, std::int64
     std::ranges::copy_if(candidates, std::back_inserter(labels), [&](const Candidate& candidate) {
         return !isSheet(candidate, candidates);
     });
-    return chooseInOrder(labels);
+    return chooseInOrder(withoutFields(labels));
 }
 
 }  // namespace intake::sheet

@@ -95,6 +95,24 @@ CellGrid::CellGrid(const InkMap& ink, int dotsOfCell)
             distances_.push_back(hasInk ? 0 : farAway);
         }
     }
+    spread();
+}
+
+void CellGrid::clear(const std::vector<DotRectangle>& cells) {
+    const int farAway = width_ + height_;
+    for (int& distance : distances_) {
+        distance = distance == 0 ? 0 : farAway;
+    }
+    for (const DotRectangle& part : cells) {
+        for (int y = part.top; y < part.bottom; ++y) {
+            const auto row = distances_.begin() + static_cast<std::ptrdiff_t>(indexOf(0, y));
+            std::fill(row + part.left, row + part.right, farAway);
+        }
+    }
+    spread();
+}
+
+void CellGrid::spread() {
     spreadForwards();
     spreadBackwards();
 }

@@ -13,6 +13,9 @@ class CellGrid {
 public:
     CellGrid(const InkMap& ink, int dotsOfCell);
 
+    /// Takes the ink of some cells for white.
+    void clear(const std::vector<DotRectangle>& cells);
+
     int width() const { return width_; }
     int height() const { return height_; }
     int distance(int x, int y) const { return distances_[indexOf(x, y)]; }
@@ -26,6 +29,7 @@ private:
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
                static_cast<std::size_t>(x);
     }
+    void spread();
     void spreadForwards();
     void spreadBackwards();
     void reach(int x, int y, int fromX, int fromY);

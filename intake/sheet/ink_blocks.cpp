@@ -22,6 +22,34 @@ DotRectangle dotsOf(const DotRectangle& cells, int dotsOfCell) {
             cells.bottom * dotsOfCell};
 }
 
+// Lines as they are drawn at the corners of what is to be cut out, in points.
+struct MarkBounds {
+    double thickest = 3;
+    double shortest = 5;
+    double longest = 40;
+    double apart = 4;
+};
+
+bool isMark(const InkMap& ink, const DotRectangle& extent, double dotsPerPoint) {
+    const MarkBounds bounds;
+    const double thickness = std::min(extent.width(), extent.height()) / dotsPerPoint;
+    const double length = std::max(extent.width(), extent.height()) / dotsPerPoint;
+    const int apart = static_cast<int>(bounds.apart * dotsPerPoint);
+    const DotRectangle around{extent.left - apart, extent.top - apart, extent.right + apart,
+                              extent.bottom + apart};
+    return thickness <= bounds.thickest && length >= bounds.shortest && length <= bounds.longest &&
+           ink.count(around) == ink.count(extent);
+}
+
+std::vector<DotRectangle> marks(const CellGrid& grid, const InkMap& ink, int dotsOfCell,
+                                double dotsPerPoint) {
+    std::vector<DotRectangle> found = grid.groups(0);
+    std::erase_if(found, [&](const DotRectangle& cells) {
+        return !isMark(ink, ink.extent(dotsOf(cells, dotsOfCell)), dotsPerPoint);
+    });
+    return found;
+}
+
 class Collection {
 public:
     void add(const DotRectangle& extent, int farthest) {
@@ -43,7 +71,8 @@ private:
 
 std::vector<InkBlock> findInkBlocks(const InkMap& ink, double dotsPerPoint, int shortestSide) {
     const int dotsOfCell = std::max(1, static_cast<int>(std::lround(sCellPoints * dotsPerPoint)));
-    const CellGrid grid(ink, dotsOfCell);
+    CellGrid grid(ink, dotsOfCell);
+    grid.clear(marks(grid, ink, dotsOfCell, dotsPerPoint));
     Collection blocks;
     for (int farthest = 0; farthest <= sFarthest; ++farthest) {
         for (const DotRectangle& cells : grid.groups(farthest)) {

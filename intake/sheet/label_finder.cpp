@@ -64,8 +64,9 @@ private:
         const int shortest = std::max(1, static_cast<int>(shortestSide() * sShortestLineShare));
         const FrameLines lines = findFrameLines(ink_, shortest, dots(sWidestGap));
         const auto isWanted = [this](const DotRectangle& frame) { return fit(frame).isLabel; };
-        for (const DotRectangle& frame : findFrames(lines, isWanted)) {
-            candidates_.push_back({frame, fit(frame), true});
+        for (const Frame& frame : findFrames(lines, dots(sWidestGap), isWanted)) {
+            const auto kind = frame.isClosed ? Candidate::Kind::Frame : Candidate::Kind::OpenFrame;
+            candidates_.push_back({frame.extent, fit(frame.extent), kind});
         }
     }
 
@@ -73,7 +74,7 @@ private:
         for (const InkBlock& block : findInkBlocks(ink_, scale_, shortestSide())) {
             const LabelFit blockFit = fit(block.extent);
             if (block.isLasting && blockFit.isLabel) {
-                candidates_.push_back({block.extent, blockFit, false});
+                candidates_.push_back({block.extent, blockFit, Candidate::Kind::Block});
             }
         }
     }
