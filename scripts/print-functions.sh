@@ -5,6 +5,7 @@
 intake=build/intake/documenttokestotspl
 picture_program=build/intake/picture/picturetokestolabel
 content_program=build/intake/content/rastertokestocontent
+sheet_program=build/intake/sheet/pdftokestolabels
 filter_program=build/filter/rastertokestotspl
 previewer=build/preview/tsplpreview
 
@@ -43,7 +44,7 @@ link_programs() {
     for filter in "$(cups-config --serverbin)"/filter/*; do
         ln -sf "$filter" "$programs/filter/"
     done
-    for own in "$intake" "$picture_program" "$content_program" "$filter_program"; do
+    for own in "$intake" "$picture_program" "$content_program" "$sheet_program" "$filter_program"; do
         ln -sf "$PWD/$own" "$programs/filter/"
     done
 }

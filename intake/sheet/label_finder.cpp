@@ -19,6 +19,7 @@ constexpr double sShortestShare = 0.75;
 constexpr double sShortestLineShare = 0.6;
 constexpr double sWidestGap = 1.5;
 constexpr double sMargin = 3;
+constexpr double sMostTrimmed = 2;
 
 class Finder {
 public:
@@ -34,8 +35,9 @@ public:
         }
         sortAsRead(parts);
         std::vector<Rectangle> labels;
-        std::ranges::transform(parts, std::back_inserter(labels),
-                               [this](const DotRectangle& part) { return inPoints(part); });
+        std::ranges::transform(parts, std::back_inserter(labels), [this](const DotRectangle& part) {
+            return trimmed(inPoints(part), fit(part).isAcross);
+        });
         return labels;
     }
 
@@ -97,6 +99,20 @@ private:
             cut = grown(cut, 0, 1);
         }
         return common(cut, wholePage());
+    }
+
+    static void trim(double& start, double& end, double labelSide) {
+        const double over = end - start - labelSide;
+        if (over > 0 && over <= sMostTrimmed) {
+            start += over / 2;
+            end -= over / 2;
+        }
+    }
+
+    Rectangle trimmed(Rectangle part, bool isAcross) const {
+        trim(part.left, part.right, isAcross ? label_.height : label_.width);
+        trim(part.top, part.bottom, isAcross ? label_.width : label_.height);
+        return part;
     }
 
     static DotRectangle grown(const DotRectangle& part, int across, int down) {

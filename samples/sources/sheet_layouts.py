@@ -210,8 +210,8 @@ def layouts():
         "letter-dashed": sheet(LETTER, placed(BARE(), 90, 460, 90),
                                "q [6 4] 0 d 1 w 90.5 460.5 431 287 re S Q", BELOW),
         "letter-touched": sheet(
-            LETTER, placed(FRAMED(), 90, 440, 90), text(100, 435, 12, "Fold here, and here too, and here"),
-            text(500, 600, 14, "Touches the frame"), "q 1 w 0 439.5 m 612 439.5 l S Q", BELOW),
+            LETTER, placed(FRAMED(), 90, 440, 90), text(100, 431.1, 12, "FOLD HERE AND HERE TOO"),
+            text(520.8, 600, 14, "Touches the frame"), "q 1 w 0 440.5 m 612 440.5 l S Q", BELOW),
         "a4-four": sheet(A4, *(placed(FRAMED(number), x, y, 0, 0.95) for number, x, y in (
             (1, 18, 425), (2, 303, 425), (3, 18, 6), (4, 303, 6))), labels=(1, 2, 3, 4), scaled=True),
         "letter-four-bare": sheet(LETTER, *(placed(BARE(number), x, y, 0, 0.85) for number, x, y in (
