@@ -4,13 +4,22 @@
 
 namespace intake {
 
+namespace {
+
+std::string sizeText(const sizes::PointSize& size) {
+    constexpr int decimals = 6;
+    return sizes::lengthText(size.width, decimals) + "x" + sizes::lengthText(size.height, decimals);
+}
+
+}  // namespace
+
 Command sheetCommand(const RoadPlan& plan, const OptionList& options,
                      const TemporaryFolder& folder) {
-    const sizes::PointSize label = sizes::labelPoints(plan.label.nominal);
     Command command;
     command.path = plan.programs.pathOf("pdftokestolabels");
     command.arguments = {"pdftokestolabels", "--label",
-                         sizes::lengthText(label.width) + "x" + sizes::lengthText(label.height)};
+                         sizeText(sizes::labelPoints(plan.label.nominal)), "--page",
+                         sizeText(plan.label.page.points)};
     for (const Option& option : options.all()) {
         command.arguments.insert(command.arguments.end(), {"-o", option.name + "=" + option.value});
     }

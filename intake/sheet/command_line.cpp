@@ -11,9 +11,10 @@ namespace intake::sheet {
 namespace {
 
 constexpr std::string_view sUsage =
-    "Usage: pdftokestolabels --label WIDTHxHEIGHT [-o NAME=VALUE]... FILE\n"
+    "Usage: pdftokestolabels --label WIDTHxHEIGHT [--page WIDTHxHEIGHT] [-o NAME=VALUE]... FILE\n"
     "\n"
-    "Cuts the labels of so many points out of the pages of a PDF file and writes them as PDF.\n";
+    "Cuts the labels of so many points out of the pages of a PDF file and writes them as PDF,\n"
+    "on pages of the label's size or of another one.\n";
 
 // 200 inches, the longest side of a page.
 constexpr double sLongestSide = 14400;
@@ -27,10 +28,12 @@ double lengthOf(std::string_view text) {
     return isNumber && length >= 1 && length <= sLongestSide ? length : 0;
 }
 
-void readLabel(std::string_view text, sizes::PointSize& label) {
+// Whether it could be understood.
+bool readSize(std::string_view text, sizes::PointSize& size) {
     const std::size_t cross = std::min(text.find('x'), text.size());
-    label.width = lengthOf(text.substr(0, cross));
-    label.height = cross == text.size() ? 0 : lengthOf(text.substr(cross + 1));
+    size.width = lengthOf(text.substr(0, cross));
+    size.height = cross == text.size() ? 0 : lengthOf(text.substr(cross + 1));
+    return size.width > 0 && size.height > 0;
 }
 
 bool readOption(std::string_view text, OptionList& options) {
@@ -43,8 +46,10 @@ bool readOption(std::string_view text, OptionList& options) {
 }
 
 constexpr int sLabel = 1;
+constexpr int sPage = 2;
 const std::array sNames{
     option{"label", required_argument, nullptr, sLabel},
+    option{"page", required_argument, nullptr, sPage},
     option{nullptr, 0, nullptr, 0},
 };
 
@@ -52,8 +57,9 @@ const std::array sNames{
 bool take(int name, CommandLine& line) {
     switch (name) {
         case sLabel:
-            readLabel(optarg, line.label);
-            return true;
+            return readSize(optarg, line.sides.label);
+        case sPage:
+            return readSize(optarg, line.sides.page);
         case 'o':
             return readOption(optarg, line.options);
         default:
@@ -75,8 +81,11 @@ std::optional<CommandLine> readCommandLine(int argc, char* argv[]) {
             return refuse();
         }
     }
-    if (line.label.width <= 0 || line.label.height <= 0 || optind != argc - 1) {
+    if (line.sides.label.width <= 0 || optind != argc - 1) {
         return refuse();
+    }
+    if (line.sides.page.width <= 0) {
+        line.sides.page = line.sides.label;
     }
     line.file = argv[optind];
     return line;

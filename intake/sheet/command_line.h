@@ -4,13 +4,13 @@
 #include <string>
 
 #include "intake/option_list.h"
-#include "sizes/dot_grid.h"
+#include "intake/sheet/label_matrix.h"
 
 namespace intake::sheet {
 
 /// What the program is asked to do.
 struct CommandLine {
-    sizes::PointSize label;
+    LabelSides sides;
     OptionList options;  ///< of the job, those that choose pages
     std::string file;
 };

@@ -1,5 +1,7 @@
 #include "intake/sheet/label_matrix.h"
 
+#include <algorithm>
+
 namespace intake::sheet {
 
 Matrix operator*(const Matrix& first, const Matrix& then) {
@@ -27,6 +29,15 @@ Matrix toSeen(const PageView& page) {
         default:
             return {unit, 0, 0, -unit, -page.left * unit, page.top * unit};
     }
+}
+
+double scaleFor(const sizes::PointSize& part, const LabelSides& sides) {
+    constexpr double rounding = 0.01;
+    if (part.width <= sides.label.width + rounding &&
+        part.height <= sides.label.height + rounding) {
+        return 1;
+    }
+    return std::min({1.0, sides.page.width / part.width, sides.page.height / part.height});
 }
 
 Matrix toLabel(const Rectangle& cut, int quarters) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "intake/sheet/rectangle.h"
+#include "sizes/dot_grid.h"
 
 namespace intake::sheet {
 
@@ -34,6 +35,16 @@ Rectangle seenPage(const PageView& page);
 /// Takes what a page's content draws to where it is seen, in points right and down from the upper
 /// left corner.
 Matrix toSeen(const PageView& page);
+
+/// The label, and the page that it is printed on: its dots are whole, so that it may be a little
+/// smaller or larger.
+struct LabelSides {
+    sizes::PointSize label;
+    sizes::PointSize page;
+};
+
+/// How much smaller a part of a page has to become: 1 for what is not larger than the label.
+double scaleFor(const sizes::PointSize& part, const LabelSides& sides);
 
 /// Takes points of the page as it is seen to those of a page that shows just the cut, turned
 /// clockwise by so many quarters, in points right and up from its lower left corner.

@@ -33,16 +33,22 @@ std::string words(std::initializer_list<double> numbers) {
     return text;
 }
 
-std::pair<double, double> sidesOf(const LabelCut& label) {
-    const std::pair sides(label.place.width(), label.place.height());
-    return label.quarters % 2 == 0 ? sides : std::pair(sides.second, sides.first);
+sizes::PointSize turnedSize(const LabelCut& label) {
+    const sizes::PointSize size{label.place.width(), label.place.height()};
+    return label.quarters % 2 == 0 ? size : sizes::PointSize{size.height, size.width};
 }
 
-std::string contentOf(const LabelCut& label) {
-    const auto [width, height] = sidesOf(label);
-    const Matrix m = toSeen(label.page) * toLabel(label.place, label.quarters);
-    return "q " + words({0, 0, width, height}) + "re W n " + words({m.a, m.b, m.c, m.d, m.e, m.f}) +
-           "cm /Sheet Do Q\n";
+std::string contentOf(const LabelCut& label, const LabelSides& sides) {
+    const sizes::PointSize part = turnedSize(label);
+    const double scale = scaleFor(part, sides);
+    const double width = part.width * scale;
+    const double height = part.height * scale;
+    const double left = (sides.page.width - width) / 2;
+    const double low = (sides.page.height - height) / 2;
+    const Matrix m = toSeen(label.page) * toLabel(label.place, label.quarters) *
+                     Matrix{scale, 0, 0, scale, left, low};
+    return "q " + words({left, low, width, height}) + "re W n " +
+           words({m.a, m.b, m.c, m.d, m.e, m.f}) + "cm /Sheet Do Q\n";
 }
 
 }  // namespace
@@ -53,17 +59,17 @@ QPDFObjectHandle formOfPage(QPDFObjectHandle page, const PageView& view) {
     return form;
 }
 
-QPDFObjectHandle makeLabelPage(QPDF& pdf, const QPDFObjectHandle& form, const LabelCut& label) {
-    const auto [width, height] = sidesOf(label);
+QPDFObjectHandle makeLabelPage(QPDF& pdf, const QPDFObjectHandle& form, const LabelCut& label,
+                               const LabelSides& sides) {
     auto objects = QPDFObjectHandle::newDictionary();
     objects.replaceKey("/Sheet", form);
     auto resources = QPDFObjectHandle::newDictionary();
     resources.replaceKey("/XObject", objects);
     auto page = QPDFObjectHandle::newDictionary();
     page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
-    page.replaceKey("/MediaBox", box(0, 0, width, height));
+    page.replaceKey("/MediaBox", box(0, 0, sides.page.width, sides.page.height));
     page.replaceKey("/Resources", resources);
-    page.replaceKey("/Contents", QPDFObjectHandle::newStream(&pdf, contentOf(label)));
+    page.replaceKey("/Contents", QPDFObjectHandle::newStream(&pdf, contentOf(label, sides)));
     return pdf.makeIndirectObject(page);
 }
 

@@ -10,7 +10,9 @@ namespace intake::sheet {
 /// What a page draws as an object that other pages can draw, of all that the page shows.
 QPDFObjectHandle formOfPage(QPDFObjectHandle page, const PageView& view);
 
-/// A page of just the cut, turned, that draws the form of the page there and clips it.
-QPDFObjectHandle makeLabelPage(QPDF& pdf, const QPDFObjectHandle& form, const LabelCut& label);
+/// A page for a label that draws the form of a page so that the cut, turned, is in the middle, at
+/// its own size if the label takes it, and clips what is around the cut.
+QPDFObjectHandle makeLabelPage(QPDF& pdf, const QPDFObjectHandle& form, const LabelCut& label,
+                               const LabelSides& sides);
 
 }  // namespace intake::sheet

@@ -121,14 +121,15 @@ double SheetDocument::unitOf(int page) const {
     return unit.isNumber() && unit.getNumericValue() > 0 ? unit.getNumericValue() : 1;
 }
 
-void SheetDocument::replace(int page, const std::vector<LabelCut>& labels) {
+void SheetDocument::replace(int page, const std::vector<LabelCut>& labels,
+                            const LabelSides& sides) {
     const auto index = static_cast<std::size_t>(page);
     const QPDFObjectHandle form = pages_->pdf.makeIndirectObject(
         formOfPage(pages_->pages.at(index).object, labels.front().page));
     std::vector<QPDFObjectHandle>& written = pages_->written.at(index);
     written.clear();
     for (const LabelCut& label : labels) {
-        written.push_back(makeLabelPage(pages_->pdf, form, label));
+        written.push_back(makeLabelPage(pages_->pdf, form, label, sides));
     }
 }
 

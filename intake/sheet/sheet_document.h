@@ -38,7 +38,7 @@ public:
     double unitOf(int page) const;
 
     /// Puts labels in the place of a page, one page for each. Pages keep their numbers.
-    void replace(int page, const std::vector<LabelCut>& labels);
+    void replace(int page, const std::vector<LabelCut>& labels, const LabelSides& sides);
 
     /// Writes the file. Throws JobFailure when that fails.
     void write(std::FILE* stream);

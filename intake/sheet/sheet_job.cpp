@@ -1,6 +1,8 @@
 #include "intake/sheet/sheet_job.h"
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "intake/job_failure.h"
 #include "intake/picture/label_selection.h"
@@ -19,7 +21,7 @@ namespace {
 class SheetJob {
 public:
     SheetJob(const CommandLine& line, const SheetDocument::IsWanted& isWanted)
-        : label_(line.label), document_(line.file, isWanted) {}
+        : sides_(line.sides), document_(line.file, isWanted) {}
 
     void cut() {
         document_.write(scratch_.stream());
@@ -27,6 +29,11 @@ public:
         for (int page = 0; page < document_.size(); ++page) {
             boundNextStep();
             cutPage(page);
+        }
+        if (whole_.size() < static_cast<std::size_t>(document_.size())) {
+            for (const auto& [page, view] : whole_) {
+                fitPage(page, view);
+            }
         }
     }
 
@@ -42,15 +49,25 @@ private:
         PageView view = seen_->view(page);
         view.unit = document_.unitOf(page);
         const Rectangle whole = seenPage(view);
-        if (isLabelPage({whole.width(), whole.height()}, label_)) {
+        if (isLabelPage({whole.width(), whole.height()}, sides_.label)) {
+            whole_.emplace_back(page, view);
             return report_.addLabelPage();
         }
         const auto labels = labelsOf(page, view);
         if (labels.empty()) {
+            whole_.emplace_back(page, view);
             return report_.addUnfound(document_.numberOf(page));
         }
-        document_.replace(page, labels);
+        document_.replace(page, labels, sides_);
         report_.addLabels(labels.size());
+    }
+
+    void fitPage(int page, const PageView& view) {
+        const Rectangle whole = seenPage(view);
+        if (whole.width() > 0 && whole.height() > 0) {
+            const int quarters = quartersToUpright(whole, {}, sides_.label);
+            document_.replace(page, {{view, whole, quarters}}, sides_);
+        }
     }
 
     std::vector<LabelCut> labelsOf(int page, const PageView& view) const {
@@ -59,7 +76,7 @@ private:
             return {};
         }
         std::vector<LabelCut> labels;
-        for (const Rectangle& place : findLabels(bitmap->dots(), label_)) {
+        for (const Rectangle& place : findLabels(bitmap->dots(), sides_.label)) {
             labels.push_back({view, place, 0});
         }
         turnUpright(page, labels);
@@ -72,14 +89,16 @@ private:
         }
         const std::vector<Word> words = seen_->words(page, labels.front().page.unit);
         for (LabelCut& label : labels) {
-            label.quarters = quartersToUpright(label.place, words, label_);
+            label.quarters = quartersToUpright(label.place, words, sides_.label);
         }
     }
 
-    sizes::PointSize label_;
+    LabelSides sides_;
     SheetDocument document_;
     ScratchFile scratch_;
     std::optional<SeenDocument> seen_;
+    // Pages without a label to cut out.
+    std::vector<std::pair<int, PageView>> whole_;
     SheetReport report_;
 };
 

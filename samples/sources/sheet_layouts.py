@@ -234,7 +234,7 @@ def layouts():
                                       picture=label_picture(1))),
         "letter-text": sheet(LETTER, text_page(), labels=(None,)),
         "label": sheet(LABEL, FRAMED()),
-        "label-lying": sheet((432, 288), placed(FRAMED(), 0, 0, 90)),
+        "label-lying": sheet((432, 288), placed(FRAMED(), 0, 0, 270)),
         "three-pages": Layout(*two_pages, labels=(1, None, 2)),
     }
 
