@@ -5,6 +5,7 @@ of 203 dots per inch, when a label is drawn at its own size. Needs zint for the 
 """
 
 import subprocess
+import textwrap
 import zlib
 from functools import lru_cache
 
@@ -60,7 +61,7 @@ def text(x, y, size, words):
     return f"BT /F {size} Tf {x} {y} Td ({words}) Tj ET"
 
 
-def label_drawing(number, frame=True):
+def label_drawing(number=1, frame=True):
     """A label of 288 x 432 points: with a frame just within its edge, or with white around it."""
     parts = ["q 0 g 0 G"]
     if frame:
@@ -102,10 +103,10 @@ def instructions(x, y, width=500, lines=8):
     """What the carrier has to say, from x, y downwards, with a code of its own at the end."""
     words = ("Print this page, cut the label out along its edge and put it on the parcel. Do not cover "
              "the codes with tape. Keep this part of the page as your receipt. ") * 6
-    letters = int(width / 5)
+    rows = textwrap.wrap(words, int(width / 5))
     parts = ["q 0 g", text(x, y - 14, 14, "How to use this label")]
     for line in range(lines):
-        parts.append(text(x, y - 34 - 14 * line, 10, words[line * letters:(line + 1) * letters].strip()))
+        parts.append(text(x, y - 34 - 14 * line, 10, rows[line]))
     parts.append(bars("QRCODE", INSTRUCTION, x, y - 34 - 14 * lines - 60, 6 * DOT))
     return "\n".join([*parts, "Q"])
 
@@ -161,11 +162,6 @@ def sheet(size, *drawings, **more):
     return Layout(Page(size, *drawings), **more)
 
 
-FRAMED = lambda number=1: label_drawing(number)  # noqa: E731
-BARE = lambda number=1: label_drawing(number, frame=False)  # noqa: E731
-BELOW = instructions(60, 400)
-
-
 def text_page():
     line = "No label is on this page. It is a letter, with lines and paragraphs as letters have them. "
     parts = [text(72, 700, 18, "Terms of carriage")]
@@ -177,64 +173,70 @@ def text_page():
 
 def layouts():
     """All layouts by their names."""
-    two_pages = (Page(LETTER, placed(FRAMED(1), 90, 460, 90), BELOW),
+    framed = label_drawing
+    below = instructions(60, 400)
+
+    def bare(number=1):
+        return label_drawing(number, frame=False)
+
+    two_pages = (Page(LETTER, placed(framed(1), 90, 460, 90), below),
                  Page(LETTER, text_page()),
-                 Page(A4, placed(BARE(2), 80, 500, 270), BELOW))
+                 Page(A4, placed(bare(2), 80, 500, 270), below))
     wide = f"q 0 g {text(30, 30, 12, 'outside')} 0 0 60 60 re f Q"
     return {
-        "letter-top-lying": sheet(LETTER, placed(FRAMED(), 90, 460, 90), BELOW),
-        "letter-top-lying-the-other-way": sheet(LETTER, placed(FRAMED(), 90, 460, 270), BELOW),
-        "letter-top-bare": sheet(LETTER, placed(BARE(), 90, 460, 90), BELOW),
-        "a4-top-lying": sheet(A4, placed(FRAMED(), 80, 510, 90), BELOW),
-        "a4-top-bare": sheet(A4, placed(BARE(), 80, 510, 270), BELOW),
-        "letter-bottom-lying": sheet(LETTER, placed(FRAMED(), 90, 40, 90), instructions(60, 740)),
-        "a4-bottom-bare": sheet(A4, placed(BARE(), 80, 60, 90), instructions(60, 780)),
-        "letter-left": sheet(LETTER, placed(FRAMED(), 20, 300), instructions(340, 730, 240)),
-        "letter-right": sheet(LETTER, placed(FRAMED(), 304, 300), instructions(30, 730, 250)),
-        "a4-left-bare": sheet(A4, placed(BARE(), 10, 380), instructions(330, 800, 240)),
-        "a4-right-bare": sheet(A4, placed(BARE(), 297, 380), instructions(30, 800, 230)),
-        "letter-corner": sheet(LETTER, placed(FRAMED(), 18, 342), instructions(340, 760, 240),
+        "letter-top-lying": sheet(LETTER, placed(framed(), 90, 460, 90), below),
+        "letter-top-lying-the-other-way": sheet(LETTER, placed(framed(), 90, 460, 270), below),
+        "letter-top-bare": sheet(LETTER, placed(bare(), 90, 460, 90), below),
+        "a4-top-lying": sheet(A4, placed(framed(), 80, 510, 90), below),
+        "a4-top-bare": sheet(A4, placed(bare(), 80, 510, 270), below),
+        "letter-bottom-lying": sheet(LETTER, placed(framed(), 90, 40, 90), instructions(60, 740)),
+        "a4-bottom-bare": sheet(A4, placed(bare(), 80, 60, 90), instructions(60, 780)),
+        "letter-left": sheet(LETTER, placed(framed(), 20, 300), instructions(340, 730, 240)),
+        "letter-right": sheet(LETTER, placed(framed(), 304, 300), instructions(30, 730, 250)),
+        "a4-left-bare": sheet(A4, placed(bare(), 10, 380), instructions(330, 800, 240)),
+        "a4-right-bare": sheet(A4, placed(bare(), 297, 380), instructions(30, 800, 230)),
+        "letter-corner": sheet(LETTER, placed(framed(), 18, 342), instructions(340, 760, 240),
                                instructions(60, 300)),
-        "letter-middle-bare": sheet(LETTER, placed(BARE(), 162, 180)),
-        "letter-between": sheet(LETTER, placed(FRAMED(), 90, 260, 90), instructions(60, 770, 500, 4),
+        "letter-middle-bare": sheet(LETTER, placed(bare(), 162, 180)),
+        "letter-between": sheet(LETTER, placed(framed(), 90, 260, 90), instructions(60, 770, 500, 4),
                                 instructions(60, 230, 500, 4)),
-        "letter-upside-down": sheet(LETTER, placed(FRAMED(), 40, 320, 180), instructions(60, 280)),
-        "letter-half": sheet(LETTER, placed(FRAMED(), 18, 396, 90, 1.32), instructions(60, 360),
+        "letter-upside-down": sheet(LETTER, placed(framed(), 40, 320, 180), instructions(60, 280)),
+        "letter-half": sheet(LETTER, placed(framed(), 18, 396, 90, 1.32), instructions(60, 360),
                              scaled=True),
-        "a4-half-bare": sheet(A4, placed(BARE(), 18, 450, 270, 1.29), BELOW, scaled=True),
-        "letter-full": sheet(LETTER, placed(FRAMED(), 54, 18, 0, 1.74), scaled=True),
-        "a4-full-bare": sheet(A4, placed(BARE(), 30, 20, 0, 1.85), scaled=True),
-        "letter-cut-marks": sheet(LETTER, placed(BARE(), 90, 460, 90), cut_marks(90, 460, 432, 288), BELOW),
-        "letter-cut-line": sheet(LETTER, placed(BARE(), 90, 470, 90),
-                                 "q [6 4] 0 d 1 w 0 440 m 612 440 l S Q", BELOW),
-        "letter-dashed": sheet(LETTER, placed(BARE(), 90, 460, 90),
-                               "q [6 4] 0 d 1 w 90.5 460.5 431 287 re S Q", BELOW),
+        "a4-half-bare": sheet(A4, placed(bare(), 18, 450, 270, 1.29), below, scaled=True),
+        "letter-full": sheet(LETTER, placed(framed(), 54, 18, 0, 1.74), scaled=True),
+        "a4-full-bare": sheet(A4, placed(bare(), 30, 20, 0, 1.85), scaled=True),
+        "letter-cut-marks": sheet(LETTER, placed(bare(), 90, 460, 90), cut_marks(90, 460, 432, 288), below),
+        "letter-cut-line": sheet(LETTER, placed(bare(), 90, 470, 90),
+                                 "q [6 4] 0 d 1 w 0 440 m 612 440 l S Q", below),
+        "letter-dashed": sheet(LETTER, placed(bare(), 90, 460, 90),
+                               "q [6 4] 0 d 1 w 90.5 460.5 431 287 re S Q", below),
         "letter-touched": sheet(
-            LETTER, placed(FRAMED(), 90, 440, 90), text(100, 431.1, 12, "FOLD HERE AND HERE TOO"),
-            text(520.8, 600, 14, "Touches the frame"), "q 1 w 0 440.5 m 612 440.5 l S Q", BELOW),
-        "a4-four": sheet(A4, *(placed(FRAMED(number), x, y, 0, 0.95) for number, x, y in (
+            LETTER, placed(framed(), 90, 440, 90), text(100, 431.1, 12, "FOLD HERE AND HERE TOO"),
+            text(520.8, 600, 14, "Touches the frame"), "q 1 w 0 440.5 m 612 440.5 l S Q", below),
+        "a4-four": sheet(A4, *(placed(framed(number), x, y, 0, 0.95) for number, x, y in (
             (1, 18, 425), (2, 303, 425), (3, 18, 6), (4, 303, 6))), labels=(1, 2, 3, 4), scaled=True),
-        "letter-four-bare": sheet(LETTER, *(placed(BARE(number), x, y, 0, 0.85) for number, x, y in (
+        "letter-four-bare": sheet(LETTER, *(placed(bare(number), x, y, 0, 0.85) for number, x, y in (
             (1, 30, 410), (2, 330, 410), (3, 30, 20), (4, 330, 20))), labels=(1, 2, 3, 4), scaled=True),
-        "letter-two": sheet(LETTER, placed(FRAMED(1), 90, 460, 90), placed(FRAMED(2), 90, 100, 90),
+        "letter-two": sheet(LETTER, placed(framed(1), 90, 460, 90), placed(framed(2), 90, 100, 90),
                             labels=(1, 2)),
-        "a4-two-sharing-a-line": sheet(A4, placed(FRAMED(1), 9.6, 380), placed(FRAMED(2), 297.6, 380),
+        "a4-two-sharing-a-line": sheet(A4, placed(framed(1), 9.6, 380), placed(framed(2), 297.6, 380),
                                        instructions(60, 340), labels=(1, 2)),
-        "letter-rotate-90": Layout(Page(LETTER, placed(FRAMED(), 40, 180, 90), instructions(60, 150, 500, 2),
+        "letter-rotate-90": Layout(Page(LETTER, placed(framed(), 40, 180, 90), instructions(60, 150, 500, 2),
                                         entries="/Rotate 90")),
-        "a4-rotate-180": Layout(Page(A4, placed(FRAMED(), 90, 500, 90), BELOW, entries="/Rotate 180")),
-        "letter-rotate-270": Layout(Page(LETTER, placed(BARE(), 90, 460, 90), BELOW,
+        "a4-rotate-180": Layout(Page(A4, placed(framed(), 90, 500, 90), below, entries="/Rotate 180")),
+        "letter-rotate-270": Layout(Page(LETTER, placed(bare(), 90, 460, 90), below,
                                          entries="/Rotate 270")),
-        "letter-crop-box": Layout(Page(LETTER, placed(FRAMED(), -110, 160, 90), wide,
+        "letter-crop-box": Layout(Page(LETTER, placed(framed(), -110, 160, 90), wide,
                                        instructions(-140, 90, 500, 4), box=(-300, -300, 900, 900),
                                        entries="/CropBox [-200 -300 412 492]")),
-        "letter-user-unit": Layout(Page((306, 396), "q 0.5 0 0 0.5 0 0 cm", placed(FRAMED(), 90, 460, 90),
-                                        BELOW, "Q", entries="/UserUnit 2")),
-        "letter-picture": Layout(Page(LETTER, "q 0 288 -432 0 530 460 cm /I Do Q", BELOW,
+        "letter-user-unit": Layout(Page((306, 396), "q 0.5 0 0 0.5 0 0 cm", placed(framed(), 90, 460, 90),
+                                        below, "Q", entries="/UserUnit 2")),
+        "letter-picture": Layout(Page(LETTER, "q 0 288 -432 0 530 460 cm /I Do Q", below,
                                       picture=label_picture(1))),
         "letter-text": sheet(LETTER, text_page(), labels=(None,)),
-        "label": sheet(LABEL, FRAMED()),
-        "label-lying": sheet((432, 288), placed(FRAMED(), 0, 0, 270)),
+        "label": sheet(LABEL, framed()),
+        "label-lying": sheet((432, 288), placed(framed(), 0, 0, 270)),
         "three-pages": Layout(*two_pages, labels=(1, None, 2)),
     }
 
