@@ -1,10 +1,10 @@
 #include "intake/sheet/label_page.h"
 
-#include <qpdf/QPDFPageObjectHelper.hh>
+#include <qpdf/Buffer.hh>
 
 #include <initializer_list>
 #include <string>
-#include <utility>
+#include <vector>
 
 #include "sizes/nominal_size.h"
 
@@ -51,11 +51,39 @@ std::string contentOf(const LabelCut& label, const LabelSides& sides) {
            words({m.a, m.b, m.c, m.d, m.e, m.f}) + "cm /Sheet Do Q\n";
 }
 
+// Streams in the order in which they are drawn, with a line end behind each, which may end a word.
+std::string joined(const std::vector<QPDFObjectHandle>& streams) {
+    std::string content;
+    for (QPDFObjectHandle stream : streams) {
+        if (stream.isStream()) {
+            const auto data = stream.getStreamData();
+            content.append(reinterpret_cast<const char*>(data->getBuffer()), data->getSize());
+            content += "\n";
+        }
+    }
+    return content;
+}
+
+QPDFObjectHandle contentOfPage(QPDF& pdf, QPDFObjectHandle contents) {
+    if (contents.isStream()) {
+        return contents.copyStream();
+    }
+    return pdf.newStream(contents.isArray() ? joined(contents.getArrayAsVector()) : "");
+}
+
 }  // namespace
 
-QPDFObjectHandle formOfPage(QPDFObjectHandle page, const PageView& view) {
-    QPDFObjectHandle form = QPDFPageObjectHelper(std::move(page)).getFormXObjectForPage(false);
-    form.getDict().replaceKey("/BBox", box(view.left, view.bottom, view.right, view.top));
+QPDFObjectHandle formOfPage(QPDF& pdf, QPDFObjectHandle page, const PageView& view) {
+    QPDFObjectHandle form = contentOfPage(pdf, page.getKey("/Contents"));
+    QPDFObjectHandle entries = form.getDict();
+    entries.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
+    entries.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
+    entries.replaceKey("/BBox", box(view.left, view.bottom, view.right, view.top));
+    for (const char* const name : {"/Resources", "/Group"}) {
+        if (page.getKey(name).isDictionary()) {
+            entries.replaceKey(name, page.getKey(name));
+        }
+    }
     return form;
 }
 

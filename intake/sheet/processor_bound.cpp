@@ -3,6 +3,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <string_view>
@@ -40,7 +41,8 @@ void boundNextStep() {
     std::signal(SIGABRT, endForMemory);
     rlimit limit{};
     if (getrlimit(RLIMIT_CPU, &limit) == 0) {
-        limit.rlim_cur = std::min(limit.rlim_max, secondsUsed() + 1 + sSeconds);
+        // At the bound that cannot be moved the process would be killed without a word.
+        limit.rlim_cur = std::min(limit.rlim_max - 1, secondsUsed() + 1 + sSeconds);
         setrlimit(RLIMIT_CPU, &limit);
     }
 }

@@ -124,8 +124,8 @@ double SheetDocument::unitOf(int page) const {
 void SheetDocument::replace(int page, const std::vector<LabelCut>& labels,
                             const LabelSides& sides) {
     const auto index = static_cast<std::size_t>(page);
-    const QPDFObjectHandle form = pages_->pdf.makeIndirectObject(
-        formOfPage(pages_->pages.at(index).object, labels.front().page));
+    const QPDFObjectHandle form =
+        formOfPage(pages_->pdf, pages_->pages.at(index).object, labels.front().page);
     std::vector<QPDFObjectHandle>& written = pages_->written.at(index);
     written.clear();
     for (const LabelCut& label : labels) {
@@ -139,6 +139,9 @@ void SheetDocument::write(std::FILE* stream) {
     writer.setPreserveEncryption(false);
     writer.setStreamDataMode(qpdf_s_preserve);
     writer.write();
+    if (std::fflush(stream) != 0) {
+        failWithReason("Unable to write the labels");
+    }
 }
 
 }  // namespace intake::sheet
