@@ -137,5 +137,17 @@ TEST(StepOptions, TurnNothingOnASquareLabel) {
     EXPECT_EQ(valueOf(forPicture({}, label(50, 50)).layout, "pdfAutoRotate"), "false");
 }
 
+TEST(StepOptions, OfSheetsLeaveTheChoiceOfPagesToTheProgramThatCutsThem) {
+    const auto steps = withSheets(
+        forPdf({{"page-ranges", "2-3"}, {"page-set", "odd"}, {"number-up", "2"}, {"fill", "yes"}}));
+    EXPECT_EQ(steps.sheet.all(),
+              (std::vector<Option>{{"page-ranges", "2-3"}, {"page-set", "odd"}}));
+    EXPECT_EQ(valueOf(steps.layout, "page-ranges"), "(none)");
+    EXPECT_EQ(valueOf(steps.layout, "page-set"), "(none)");
+    EXPECT_EQ(valueOf(steps.layout, "number-up"), "2");
+    EXPECT_EQ(valueOf(steps.layout, "fill"), "yes");
+    EXPECT_TRUE(withSheets(forPdf({})).sheet.all().empty());
+}
+
 }  // namespace
 }  // namespace intake
