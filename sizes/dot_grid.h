@@ -13,12 +13,6 @@ struct DotSize {
     friend bool operator==(const DotSize&, const DotSize&) = default;
 };
 
-/// Width and height of a page in points, 1/72 inch.
-struct PointSize {
-    double width = 0;
-    double height = 0;
-};
-
 /// A page of whole dots, and the points that mean it to CUPS's converters.
 struct LabelPage {
     DotSize dots;

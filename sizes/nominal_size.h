@@ -12,6 +12,12 @@ inline constexpr double longestLength = 10000;
 /// The smallest one; CUPS knows no smaller length.
 inline constexpr double shortestLength = 0.01;
 
+/// Width and height of a page in points, 1/72 inch.
+struct PointSize {
+    double width = 0;
+    double height = 0;
+};
+
 /// The unit in which a size is named to people.
 enum class LengthUnit { Millimetre, Inch };
 

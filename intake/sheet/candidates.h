@@ -2,8 +2,8 @@
 
 #include <vector>
 
+#include "intake/sheet/dot_rectangle.h"
 #include "intake/sheet/label_fit.h"
-#include "intake/sheet/rectangle.h"
 
 namespace intake::sheet {
 

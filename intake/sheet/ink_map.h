@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "intake/sheet/rectangle.h"
+#include "intake/sheet/dot_rectangle.h"
 
 namespace intake::sheet {
 

@@ -3,7 +3,8 @@
 #include <vector>
 
 #include "intake/sheet/ink_map.h"
-#include "sizes/dot_grid.h"
+#include "intake/sheet/rectangle.h"
+#include "sizes/nominal_size.h"
 
 namespace intake::sheet {
 

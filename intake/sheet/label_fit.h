@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sizes/dot_grid.h"
+#include "sizes/nominal_size.h"
 
 namespace intake::sheet {
 

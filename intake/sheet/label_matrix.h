@@ -1,7 +1,7 @@
 #pragma once
 
 #include "intake/sheet/rectangle.h"
-#include "sizes/dot_grid.h"
+#include "sizes/nominal_size.h"
 
 namespace intake::sheet {
 

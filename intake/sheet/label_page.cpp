@@ -73,7 +73,7 @@ QPDFObjectHandle contentOfPage(QPDF& pdf, QPDFObjectHandle contents) {
 
 }  // namespace
 
-QPDFObjectHandle formOfPage(QPDF& pdf, QPDFObjectHandle page, const PageView& view) {
+QPDFObjectHandle formOfPage(QPDF& pdf, QPDFObjectHandle& page, const PageView& view) {
     QPDFObjectHandle form = contentOfPage(pdf, page.getKey("/Contents"));
     QPDFObjectHandle entries = form.getDict();
     entries.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));

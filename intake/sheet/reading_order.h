@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "intake/sheet/rectangle.h"
+#include "intake/sheet/dot_rectangle.h"
 
 namespace intake::sheet {
 

@@ -22,8 +22,8 @@ void keepQuiet(const std::string& /*text*/, void* /*closure*/) {}
 
 class Bitmap : public PageBitmap {
 public:
-    Bitmap(poppler::image image, double dotsPerPoint)
-        : image_(std::move(image)), dotsPerPoint_(dotsPerPoint) {}
+    Bitmap(const poppler::image& image, double dotsPerPoint)
+        : image_(image), dotsPerPoint_(dotsPerPoint) {}
 
     GreyPage dots() const override {
         return {reinterpret_cast<const unsigned char*>(image_.const_data()), image_.width(),
@@ -105,7 +105,7 @@ std::unique_ptr<PageBitmap> SeenDocument::draw(int page, double unit) const {
     if (!image.is_valid() || image.width() <= 0 || image.height() <= 0) {
         return nullptr;
     }
-    return std::make_unique<Bitmap>(std::move(image), dotsPerUnit / unit);
+    return std::make_unique<Bitmap>(image, dotsPerUnit / unit);
 }
 
 std::vector<Word> SeenDocument::words(int page, double unit) const {

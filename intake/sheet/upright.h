@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "intake/sheet/rectangle.h"
-#include "sizes/dot_grid.h"
+#include "sizes/nominal_size.h"
 
 namespace intake::sheet {
 

@@ -15,6 +15,7 @@ import label_stream
 from sources import sheet_layouts
 
 SHEETS, INTAKE, FILTER, PREVIEWER, PPD_FOLDER = map(os.path.abspath, sys.argv[1:6])
+CONTENT = os.path.join(os.path.dirname(INTAKE), 'content/rastertokestocontent')
 CUPS_FILTERS = '/usr/lib/cups/filter/'
 FOLDER = tempfile.mkdtemp(prefix='sheet-test-')
 atexit.register(shutil.rmtree, FOLDER)
@@ -26,7 +27,7 @@ def filter_folder(but=(), **others):
     folder = tempfile.mkdtemp(dir=FOLDER)
     os.mkdir(f'{folder}/filter')
     programs = {name: CUPS_FILTERS + name for name in ('pdftopdf', 'gstoraster')}
-    programs.update(rastertokestotspl=FILTER, pdftokestolabels=SHEETS, **others)
+    programs.update(rastertokestotspl=FILTER, pdftokestolabels=SHEETS, rastertokestocontent=CONTENT, **others)
     for name, path in programs.items():
         if name not in but:
             os.symlink(path, f'{folder}/filter/{name}')
