@@ -38,6 +38,10 @@ TEST(Candidates, MayShareTheLineBetweenThem) {
               2U);
 }
 
+TEST(Candidates, OverEachOtherAreOneLabel) {
+    EXPECT_EQ(chosen({candidate({0, 0, 288, 432}), candidate({230, 0, 518, 432})}).size(), 1U);
+}
+
 TEST(Candidates, ThatAreFramesGoBeforeBlocks) {
     const Candidate frame = candidate({0, 0, 288, 432}, Kind::Frame);
     EXPECT_EQ(chosen({candidate({0, 0, 300, 450}), frame}), Extents{frame.extent});

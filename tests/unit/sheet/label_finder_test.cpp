@@ -101,6 +101,14 @@ TEST(LabelFinder, LeavesOutInstructionsBesideABlock) {
     EXPECT_EQ(labelsOf(drawing), (Labels{{98, 98, 158, 188}}));
 }
 
+TEST(LabelFinder, TakesNoPartThatOtherInkIsHardlyFurtherFromThanItsOwnParts) {
+    Drawing drawing = blank();
+    drawing.fill({100, 100, 160, 140});
+    drawing.fill({100, 149, 160, 190});
+    drawing.fill({172, 100, 240, 190});
+    EXPECT_TRUE(labelsOf(drawing).empty());
+}
+
 TEST(LabelFinder, ReadsLabelsRowByRow) {
     Drawing drawing = blank();
     drawing.frame({200, 20, 260, 110});
