@@ -1,85 +1,107 @@
 #include "intake/sheet/cell_grid.h"
 
 #include <algorithm>
-#include <array>
-#include <utility>
+#include <cstddef>
 
 namespace intake::sheet {
 namespace {
-
-constexpr std::array sNeighbours{std::pair{-1, -1}, std::pair{0, -1}, std::pair{1, -1},
-                                 std::pair{-1, 0},  std::pair{1, 0},  std::pair{-1, 1},
-                                 std::pair{0, 1},   std::pair{1, 1}};
 
 int cellsOf(int dots, int dotsOfCell) {
     return (dots + dotsOfCell - 1) / dotsOfCell;
 }
 
-void include(DotRectangle& extent, int x, int y) {
-    if (extent.isEmpty()) {
-        extent = {x, y, x + 1, y + 1};
-        return;
+DotRectangle around(const DotRectangle& a, const DotRectangle& b) {
+    if (a.isEmpty() || b.isEmpty()) {
+        return a.isEmpty() ? b : a;
     }
-    extent = {std::min(extent.left, x), std::min(extent.top, y), std::max(extent.right, x + 1),
-              std::max(extent.bottom, y + 1)};
+    return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right),
+            std::max(a.bottom, b.bottom)};
 }
 
-// Walks over one group after another.
+// Joins the runs of each row with those of the row above that they touch.
 class Grouping {
 public:
-    Grouping(const CellGrid& grid, int farthest)
-        : grid_(grid),
-          farthest_(farthest),
-          isSeen_(static_cast<std::size_t>(grid.width()) *
-                  static_cast<std::size_t>(grid.height())) {}
+    Grouping(const CellGrid& grid, int farthest) : grid_(grid), farthest_(farthest) {}
 
     std::vector<DotRectangle> groups() {
-        std::vector<DotRectangle> found;
         for (int y = 0; y < grid_.height(); ++y) {
-            for (int x = 0; x < grid_.width(); ++x) {
-                if (take(x, y)) {
-                    found.push_back(groupFrom());
-                }
+            above_.swap(row_);
+            addRow(y);
+        }
+        std::vector<DotRectangle> found;
+        for (std::size_t group = 0; group < groups_.size(); ++group) {
+            if (groups_[group].master == group) {
+                found.push_back(groups_[group].extent);
             }
         }
         return found;
     }
 
 private:
-    bool take(int x, int y) {
-        const bool isInside = x >= 0 && y >= 0 && x < grid_.width() && y < grid_.height();
-        if (!isInside || grid_.distance(x, y) > farthest_) {
-            return false;
+    struct Run {
+        int start;
+        int end;
+        std::size_t group;
+    };
+    struct Group {
+        std::size_t master;
+        DotRectangle extent;
+    };
+
+    void addRow(int y) {
+        row_.clear();
+        std::size_t next = 0;
+        for (int x = 0; x < grid_.width(); ++x) {
+            if (grid_.distance(x, y) <= farthest_) {
+                const Run run = runFrom(x, y);
+                x = run.end;
+                join(run, next);
+                row_.push_back(run);
+            }
         }
-        const auto index = static_cast<std::size_t>(y) * static_cast<std::size_t>(grid_.width()) +
-                           static_cast<std::size_t>(x);
-        if (isSeen_[index]) {
-            return false;
-        }
-        isSeen_[index] = true;
-        next_.emplace_back(x, y);
-        return true;
     }
 
-    DotRectangle groupFrom() {
+    Run runFrom(int start, int y) {
         DotRectangle extent;
-        while (!next_.empty()) {
-            const auto [x, y] = next_.back();
-            next_.pop_back();
+        int x = start;
+        for (; x < grid_.width() && grid_.distance(x, y) <= farthest_; ++x) {
             if (grid_.distance(x, y) == 0) {
-                include(extent, x, y);
-            }
-            for (const auto& [right, down] : sNeighbours) {
-                take(x + right, y + down);
+                extent = {extent.isEmpty() ? x : extent.left, y, x + 1, y + 1};
             }
         }
-        return extent;
+        groups_.push_back({groups_.size(), extent});
+        return {start, x, groups_.size() - 1};
+    }
+
+    // With those above, from the next one on that may still be touched; corners touch as well.
+    void join(const Run& run, std::size_t& next) {
+        while (next < above_.size() && above_[next].end < run.start) {
+            ++next;
+        }
+        for (std::size_t i = next; i < above_.size() && above_[i].start <= run.end; ++i) {
+            unite(above_[i].group, run.group);
+        }
+    }
+
+    void unite(std::size_t a, std::size_t b) {
+        const auto [first, second] = std::minmax({masterOf(a), masterOf(b)});
+        groups_[first].extent = around(groups_[first].extent, groups_[second].extent);
+        groups_[second].master = first;
+    }
+
+    std::size_t masterOf(std::size_t group) {
+        while (groups_[group].master != group) {
+            groups_[group].master = groups_[groups_[group].master].master;
+            group = groups_[group].master;
+        }
+        return group;
     }
 
     const CellGrid& grid_;
     int farthest_;
-    std::vector<bool> isSeen_;
-    std::vector<std::pair<int, int>> next_;
+    std::vector<Run> above_;
+    std::vector<Run> row_;
+    std::vector<Group> groups_;
 };
 
 }  // namespace
@@ -99,6 +121,9 @@ CellGrid::CellGrid(const InkMap& ink, int dotsOfCell)
 }
 
 void CellGrid::clear(const std::vector<DotRectangle>& cells) {
+    if (cells.empty()) {
+        return;
+    }
     const int farAway = width_ + height_;
     for (int& distance : distances_) {
         distance = distance == 0 ? 0 : farAway;

@@ -21,7 +21,7 @@ public:
     int distance(int x, int y) const { return distances_[indexOf(x, y)]; }
 
     /// The rectangles, in cells, of the ink of every group of cells that are connected by cells no
-    /// further than this from ink.
+    /// further than this from ink: runs of rows joined with those above (Hoshen and Kopelman 1976).
     std::vector<DotRectangle> groups(int farthest) const;
 
 private:

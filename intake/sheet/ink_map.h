@@ -24,7 +24,10 @@ public:
 
     int width() const { return width_; }
     int height() const { return height_; }
-    bool has(int x, int y) const { return count({x, y, x + 1, y + 1}) != 0; }
+    /// Of a dot that is on the page.
+    bool has(int x, int y) const {
+        return sum(x + 1, y + 1) - sum(x, y + 1) != sum(x + 1, y) - sum(x, y);
+    }
     /// The dots of ink in what of the rectangle is on the page.
     int count(const DotRectangle& rectangle) const;
     /// The smallest rectangle around the ink that is in a rectangle of the page, empty without any.
