@@ -72,6 +72,17 @@ def text_has_the_right_side_up():
         2 * ink(range(right - 2, right), range(top, bottom))
 
 
+def labels_are_found_on_pages():
+    sheet = f'{ROOT}/samples/label-sheet.pdf'
+    add_queue('labels')
+    found = ['CODE-128:KP48201937550001', 'QR-Code:https://track.example.org/KP48201937550001']
+    assert codes_on(print_one('labels', sheet, '-o', 'LabelOnPage=Find')) == found
+    (whole,) = pages_of(print_one('labels', sheet, before=1))
+    assert whole.burnt_share() < 0.08, whole.burnt_share()
+    run('lpadmin', '-p', 'labels', '-o', 'LabelOnPage=Find')
+    assert codes_on(print_one('labels', sheet, before=2)) == found
+
+
 def every_page_of_a_document_is_a_label():
     document = write('three.pdf', documents.pdf(['one', 'two', 'three']))
     add_queue('labels')
