@@ -139,7 +139,8 @@ void SheetDocument::write(std::FILE* stream) {
     writer.setPreserveEncryption(false);
     writer.setStreamDataMode(qpdf_s_preserve);
     writer.write();
-    if (std::fflush(stream) != 0) {
+    // QPDF may have flushed the last of it itself, and does not look whether that went well.
+    if (std::fflush(stream) != 0 || std::ferror(stream) != 0) {
         failWithReason("Unable to write the labels");
     }
 }
