@@ -53,8 +53,8 @@ void PrintJob::findPrograms() {
     const bool isLaidOut =
         isPdf || (document_.kind == DocumentKind::Picture && needsLayout(options_));
     isSheet_ = isPdf && findsLabels(description_, options_);
-    programs_ =
-        intake::findPrograms({document_.kind, isLaidOut, queue_.separatesContent, isSheet_});
+    separatesContent_ = separatesContent(description_, options_);
+    programs_ = intake::findPrograms({document_.kind, isLaidOut, separatesContent_, isSheet_});
 }
 
 void PrintJob::chooseLabel() {
@@ -68,9 +68,8 @@ void PrintJob::chooseLabel() {
 }
 
 void PrintJob::print() {
-    const RoadPlan plan{arguments_,   document_, programs_,  options_,
-                        description_, label_,    queue_.dpi, queue_.separatesContent,
-                        isSheet_};
+    const RoadPlan plan{arguments_, document_,  programs_,         options_, description_,
+                        label_,     queue_.dpi, separatesContent_, isSheet_};
     if (document_.kind == DocumentKind::Raster) {
         return printRaster(plan, folder_, supervisor_);
     }

@@ -37,6 +37,7 @@ private:
     QueueDescription queue_;
     Label label_;
     // Whether labels are looked for on the document's pages.
+    bool separatesContent_ = false;
     bool isSheet_ = false;
 };
 

@@ -28,6 +28,10 @@ std::string queueChoice(std::string_view ppd, const OptionList& options, std::st
     return choice;
 }
 
+bool separatesContent(std::string_view ppd, const OptionList& options) {
+    return queueChoice(ppd, options, "Content") == "Mixed";
+}
+
 bool findsLabels(std::string_view ppd, const OptionList& options) {
     return queueChoice(ppd, options, "LabelOnPage") == "Find";
 }

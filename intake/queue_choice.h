@@ -12,6 +12,9 @@ namespace intake {
 /// the description does not have.
 std::string queueChoice(std::string_view ppd, const OptionList& options, std::string_view option);
 
+/// Whether text and the like are told from pictures.
+bool separatesContent(std::string_view ppd, const OptionList& options);
+
 /// Whether the labels on a document's pages are to be found and cut out.
 bool findsLabels(std::string_view ppd, const OptionList& options);
 

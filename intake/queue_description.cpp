@@ -72,7 +72,6 @@ public:
         }
         queue.defaultSize = valueOf("DefaultPageSize");
         queue.dpi = dpi();
-        queue.separatesContent = sizes::equalsIgnoringCase(choiceOf("Content"), "Mixed");
         queue.limits = {least(), most(queue.sizes)};
         for (QueueSize& size : queue.sizes) {
             takePrintedPage(size, queue.dpi);
@@ -109,16 +108,14 @@ private:
         return size;
     }
 
-    // Of the job, else the default. A choice that the description does not have is none.
-    std::string_view choiceOf(const std::string& option) const {
-        const std::string* chosen = options_.find(option);
-        if (chosen != nullptr && !chosen->empty() && find(option, *chosen) != nullptr) {
-            return *chosen;
+    // A choice that the description does not have is none.
+    int dpi() const {
+        const std::string* chosen = options_.find("Resolution");
+        if (chosen != nullptr && !chosen->empty() && find("Resolution", *chosen) != nullptr) {
+            return resolutionOf(*chosen);
         }
-        return valueOf("Default" + option);
+        return resolutionOf(valueOf("DefaultResolution"));
     }
-
-    int dpi() const { return resolutionOf(choiceOf("Resolution")); }
 
     // "Width: 1 points 20 312": which of the numbers, in mm.
     std::optional<double> customLimit(std::string_view length, int which) const {

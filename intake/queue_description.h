@@ -35,13 +35,10 @@ struct QueueDescription {
     std::string defaultSize;  ///< its name; may be one that is not offered
     Limits limits;
     int dpi = 0;  ///< 0 when it is not said
-    /// Whether text and the like are told from pictures: option Content, which old descriptions
-    /// do not have.
-    bool separatesContent = false;
 };
 
-/// Reads the text of a PPD file. The resolution and the treatment of content are those that the
-/// job's options choose, else the defaults. The limits are those of custom sizes, else what the
+/// Reads the text of a PPD file. The resolution is the one that the job's options choose, else the
+/// default. The limits are those of custom sizes, else what the
 /// model's printers take or the largest size that is offered.
 QueueDescription readDescription(std::string_view ppd, const OptionList& options,
                                  const MediaLookup& knownMedia);

@@ -32,6 +32,15 @@ TEST(QueueChoice, IsTheDefaultWhenTheJobHasNone) {
     EXPECT_EQ(choice({{"LabelOnPage", "Suchen"}}), "Whole") << "a translation is no choice";
 }
 
+TEST(QueueChoice, SeparatesContentWhereItIsMixed) {
+    const char* const description =
+        "*DefaultContent: AsItIs\n*Content AsItIs: \"\"\n*Content Mixed: \"\"\n";
+    EXPECT_FALSE(separatesContent(description, optionsOf({})));
+    EXPECT_TRUE(separatesContent(description, optionsOf({{"Content", "Mixed"}})));
+    EXPECT_FALSE(separatesContent("*DefaultDarkness: 8\n", optionsOf({{"Content", "Mixed"}})))
+        << "an old description does not have it";
+}
+
 TEST(QueueChoice, IsNothingOfAnOptionThatTheQueueDoesNotHave) {
     EXPECT_EQ(
         queueChoice("*DefaultDarkness: 8\n", optionsOf({{"LabelOnPage", "Find"}}), "LabelOnPage"),
