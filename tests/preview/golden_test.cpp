@@ -74,7 +74,7 @@ TEST_P(Golden, TheStreamIsClean) {
 
 // 203 / 0.0254 = 7992.1 and 300 / 0.0254 = 11811.02 dots per metre.
 const Triple sTriples[] = {
-    {"label", "kstl203.ppd", "PageSize=2x1in", 0, 203, 7992},
+    {"label", "kstl203.ppd", "PageSize=2x1in HalftoneType=None", 0, 203, 7992},
     {"stencil", "ksts300.ppd", "PageSize=Tattoo_A6 HalftoneType=Tattoo", 8, 300, 11811},
 };
 
