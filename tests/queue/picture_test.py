@@ -60,7 +60,8 @@ def pictures_of_every_kind_come_out_of_a_queue():
     wrong = []
     for name, content in picture_kinds.PRINTED.items():
         before = len(arrived('a'))
-        options = ['-o', 'orientation-requested=3'] if name == 'Photo CD' else []
+        # Its black is not quite black.
+        options = ['-o', 'orientation-requested=3', '-o', 'HalftoneType=None'] if name == 'Photo CD' else []
         job = send('labels', write(name, content), *options)
         try:
             wait(job)

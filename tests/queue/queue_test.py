@@ -147,6 +147,7 @@ def options_of_a_job_reach_the_printer():
 
 def image_options_of_a_job_change_the_picture():
     add_queue('labels')
+    run('lpadmin', '-p', 'labels', '-o', 'HalftoneType=None')
     (plain,) = pages_of(print_one('labels', LABEL))
     (mirrored,) = pages_of(print_one('labels', LABEL, '-o', 'MirrorImage=True', before=1))
     assert all(plain.burns(x, y) == mirrored.burns(plain.width - 1 - x, y)
