@@ -60,6 +60,14 @@ bool hasContrast(const BlockRow& row, std::size_t i) {
     return row.windowMost[i] - row.windowLeast[i] >= leastContrast;
 }
 
+bool isLightPart(const BlockRow& row, std::size_t i) {
+    return row.most[i] > paperMost && row.most[i] < lightMost;
+}
+
+bool isDarkPart(const BlockRow& row, std::size_t i) {
+    return row.least[i] < darkestPart && row.least[i] > darkLeast;
+}
+
 bool isTint(int least, int most) {
     return (most - least < tintRange && least > lightestTint) ||
            (most - least <= evenRange && least > lightestEvenTint);
@@ -260,9 +268,8 @@ void ContentSeparation::decide(Index i) {
     for (std::size_t block = 0; block < row->blocks; ++block) {
         const bool isContinuous = row->isContinuous.back()[block] != 0;
         const int around = sums_[block] - (isContinuous ? 1 : 0);
-        const bool isLightPart =
-            around > 0 && row->most[block] > paperMost && row->most[block] < lightMost;
-        const bool isLeft = isContinuous || around >= mostOfNeighbours || isLightPart;
+        const bool isPart = around > 0 && (isLightPart(*row, block) || isDarkPart(*row, block));
+        const bool isLeft = isContinuous || around >= mostOfNeighbours || isPart;
         row->isLeft[block] = isLeft ? 1 : 0;
     }
 }

@@ -36,6 +36,9 @@ inline constexpr int paperTouch = 8;
 inline constexpr int mostOfNeighbours = 5;
 /// Beside what is continuous, a block of levels up to this is a light part of it.
 inline constexpr int lightMost = 48;
+/// Likewise a block of levels above this is a dark part, unless all of it is as dark as the second.
+inline constexpr int darkLeast = 207;
+inline constexpr int darkestPart = 249;
 
 /// Where nothing is to be told apart: levels that are paper, and those that are black.
 inline constexpr int paperMost = 6;

@@ -214,7 +214,10 @@ private:
             for (int column = 0; column < wide_; ++column) {
                 const int around = marksAround(continuous, row, column);
                 const int darkest = most(row, column);
-                if (around >= 5 || (around > 0 && darkest > 6 && darkest < 48)) {
+                const int lightest = least(row, column);
+                const bool isPart =
+                    (darkest > 6 && darkest < 48) || (lightest > 207 && lightest < 249);
+                if (around >= 5 || (around > 0 && isPart)) {
                     left[at(row)][at(column)] = true;
                 }
             }

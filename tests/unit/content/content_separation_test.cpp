@@ -128,6 +128,12 @@ TEST(ContentSeparation, LeavesAGradientAsFarAsItGoes) {
     EXPECT_EQ(separated(page), page.levels());
 }
 
+TEST(ContentSeparation, LeavesTheDarkEndOfAGradientThatBeginsWithBlack) {
+    TestPage page(300, 120);
+    page.shade(16, 16, 280, 96, 254, 60);
+    EXPECT_EQ(separated(page), page.levels());
+}
+
 TEST(ContentSeparation, LeavesAPhotographWithSharpThingsInIt) {
     TestPage page(300, 200);
     for (int y = 20; y < 180; ++y) {
