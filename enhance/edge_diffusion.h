@@ -1,8 +1,9 @@
 #pragma once
 
 #include <cstddef>
-#include <vector>
+#include <memory>
 
+#include "enhance/edge_kernels.h"
 #include "enhance/qm_image.h"
 
 /// Halftones a grey image to 0 (black) and 255 (white: strictly above `threshold`) by error
@@ -24,15 +25,10 @@ public:
     EdgeDiffusion(int width, int height, int threshold);
 
     /// Decides the dots of the next band from its levels; of the last band as many rows as the
-    /// page has left. Rows lie `levelStride` and `dotStride` bytes apart. Before the first row
-    /// of the dots lies the last one of the band before.
+    /// page has left. Rows lie `levelStride` and `dotStride` bytes apart.
     void diffuseBand(const unsigned char* levels, std::ptrdiff_t levelStride, unsigned char* dots,
                      std::ptrdiff_t dotStride);
 
 private:
-    int width_;
-    int height_;
-    float threshold_;
-    int top_ = 0;                ///< row of the page in which the next band begins
-    std::vector<float> errors_;  ///< for its first row
+    std::unique_ptr<EdgeBands> bands_;
 };

@@ -5,7 +5,7 @@
 
 #include "filter/cancellation.h"
 #include "filter/tspl_commands.h"
-#include "image/byte_words.h"
+#include "lanes/byte_words.h"
 
 namespace {
 

@@ -1,3 +1,5 @@
+#include <new>
+
 #include "image/error_diffusion.h"
 #include "image/raster_image.h"
 #include "image/threshold_matrix.h"
@@ -43,7 +45,12 @@ bool RasterImage::Dither(long method) {
         setLastError(result.GetLastError());
         return false;
     }
-    halftone(*this, result, static_cast<unsigned long>(method));
+    try {
+        halftone(*this, result, static_cast<unsigned long>(method));
+    } catch (const std::bad_alloc&) {
+        setLastError("RasterImage::Create can't allocate memory");
+        return false;
+    }
     result.SetPaletteColor(0, 0, 0, 0, 0);
     result.SetPaletteColor(1, 255, 255, 255, 0);
     return Transfer(result);

@@ -2,47 +2,11 @@
 
 #include <algorithm>
 
-#include "image/diffusion_wavefront.h"
+#include "image/diffusion_cells.h"
 #include "image/raster_image.h"
+#include "lanes/choice.h"
 
 namespace {
-
-constexpr DiffusionCell floydSteinbergCells[] = {
-    {+1, 0, 7},  //
-    {-1, 1, 3},
-    {0, 1, 5},
-    {+1, 1, 1},  //
-};
-
-constexpr DiffusionCell burkesCells[] = {
-    {+1, 0, 8}, {+2, 0, 4},                                     //
-    {-2, 1, 2}, {-1, 1, 4}, {0, 1, 8}, {+1, 1, 4}, {+2, 1, 2},  //
-};
-
-constexpr DiffusionCell stuckiCells[] = {
-    {+1, 0, 8}, {+2, 0, 4},                                     //
-    {-2, 1, 2}, {-1, 1, 4}, {0, 1, 8}, {+1, 1, 4}, {+2, 1, 2},  //
-    {-2, 2, 1}, {-1, 2, 2}, {0, 2, 4}, {+1, 2, 2}, {+2, 2, 1},  //
-};
-
-constexpr DiffusionCell jarvisJudiceNinkeCells[] = {
-    {+1, 0, 7}, {+2, 0, 5},                                     //
-    {-2, 1, 3}, {-1, 1, 5}, {0, 1, 7}, {+1, 1, 5}, {+2, 1, 3},  //
-    {-2, 2, 1}, {-1, 2, 3}, {0, 2, 5}, {+1, 2, 3}, {+2, 2, 1},  //
-};
-
-constexpr DiffusionCell sierraCells[] = {
-    {+1, 0, 5}, {+2, 0, 3},                                      //
-    {-2, 1, 2}, {-1, 1, 4}, {0, 1, 5},  {+1, 1, 4}, {+2, 1, 2},  //
-    {-1, 2, 2}, {0, 2, 3},  {+1, 2, 2},                          //
-};
-
-constexpr DiffusionCell stevensonArceCells[] = {
-    {+2, 0, 32},                                         //
-    {-3, 1, 12}, {-1, 1, 26}, {+1, 1, 30}, {+3, 1, 16},  //
-    {-2, 2, 12}, {0, 2, 26},  {+2, 2, 12},               //
-    {-3, 3, 5},  {-1, 3, 12}, {+1, 3, 12}, {+3, 3, 5},   //
-};
 
 void spread(RasterImage& source, std::int64_t x, std::int64_t y, int error,
             const DiffusionKernel& kernel) {
@@ -66,33 +30,30 @@ void diffuseByPixel(RasterImage& source, RasterImage& target, const DiffusionKer
     }
 }
 
-ByteRows rowsOf(RasterImage& image, std::ptrdiff_t width) {
+template <typename Byte>
+ByteRows<Byte> rowsOf(RasterImage& image, std::ptrdiff_t width) {
     return {image.GetBits(), static_cast<std::ptrdiff_t>(image.GetEffWidth()), width,
             image.GetHeight()};
-}
-
-// Eight bits: the same in a wavefront over the bytes.
-template <int divisor, const auto& cells>
-void diffuseBytes(RasterImage& source, RasterImage& target) {
-    const std::ptrdiff_t width = source.GetWidth();
-    DiffusionWavefront<divisor, cells>::run(rowsOf(source, width), rowsOf(target, (width + 7) / 8));
 }
 
 }  // namespace
 
 const DiffusionKernel floydSteinbergKernel = {16, floydSteinbergCells,
-                                              diffuseBytes<16, floydSteinbergCells>};
-const DiffusionKernel burkesKernel = {32, burkesCells, diffuseBytes<32, burkesCells>};
-const DiffusionKernel stuckiKernel = {42, stuckiCells, diffuseBytes<42, stuckiCells>};
+                                              &DiffusionTable::floydSteinberg};
+const DiffusionKernel burkesKernel = {32, burkesCells, &DiffusionTable::burkes};
+const DiffusionKernel stuckiKernel = {42, stuckiCells, &DiffusionTable::stucki};
 const DiffusionKernel jarvisJudiceNinkeKernel = {48, jarvisJudiceNinkeCells,
-                                                 diffuseBytes<48, jarvisJudiceNinkeCells>};
-const DiffusionKernel sierraKernel = {32, sierraCells, diffuseBytes<32, sierraCells>};
+                                                 &DiffusionTable::jarvisJudiceNinke};
+const DiffusionKernel sierraKernel = {32, sierraCells, &DiffusionTable::sierra};
 const DiffusionKernel stevensonArceKernel = {200, stevensonArceCells,
-                                             diffuseBytes<200, stevensonArceCells>};
+                                             &DiffusionTable::stevensonArce};
 
 void diffuseError(RasterImage& source, RasterImage& target, const DiffusionKernel& kernel) {
     if (source.GetHeader().biBitCount == 8) {
-        kernel.diffuseBytes(source, target);
+        const std::ptrdiff_t width = source.GetWidth();
+        const DiffuseBytes diffuse = lanes::best<DiffusionKernels>().*kernel.diffuseBytes;
+        diffuse(rowsOf<const std::uint8_t>(source, width),
+                rowsOf<std::uint8_t>(target, (width + 7) / 8));
     } else {
         diffuseByPixel(source, target, kernel);
     }

@@ -1,23 +1,16 @@
 #pragma once
 
-#include <cstdint>
 #include <span>
 
-class RasterImage;
+#include "image/diffusion_kernels.h"
 
-/// One cell of an error-diffusion kernel: `weight` parts of the error go to the pixel `dx`
-/// columns right of and `dy` rows below the current one.
-struct DiffusionCell {
-    int dx;
-    int dy;
-    int weight;
-};
+class RasterImage;
 
 /// An error-diffusion kernel. Cells are served in order and each share is truncated on its own.
 struct DiffusionKernel {
     int divisor;
     std::span<const DiffusionCell> cells;
-    void (*diffuseBytes)(RasterImage& source, RasterImage& target);  ///< for sources of 8 bits
+    DiffuseBytes DiffusionTable::*diffuseBytes;  ///< for sources of 8 bits
 };
 
 /// R. W. Floyd and L. Steinberg, "An adaptive algorithm for spatial grayscale", Proc. SID 17,
@@ -40,6 +33,7 @@ extern const DiffusionKernel sierraKernel;
 extern const DiffusionKernel stevensonArceKernel;
 
 /// Halftones `source` into the 1-bit image `target` of the same size, row by row from left to
-/// right: levels up to 128 become 0 (black), higher ones 1 (white). The error is spread over
-/// `source`, which is changed; shares that fall outside the image are lost.
+/// right: levels up to 128 become 0 (black), higher ones 1 (white). The error of a source of other
+/// depths than 8 is spread over it, which changes it; shares that fall outside the image are lost.
+/// Raises the standard allocation exception when memory is short.
 void diffuseError(RasterImage& source, RasterImage& target, const DiffusionKernel& kernel);

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "image/byte_words.h"
+#include "lanes/byte_words.h"
 #include "image/raster_image.h"
 
 namespace {

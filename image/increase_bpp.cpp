@@ -1,4 +1,4 @@
-#include "image/byte_words.h"
+#include "lanes/byte_words.h"
 #include "image/raster_image.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-#include "image/byte_words.h"
+#include "lanes/byte_words.h"
 #include "image/raster_image.h"
 
 namespace {

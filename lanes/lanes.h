@@ -1,0 +1,162 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <type_traits>
+#include <utility>
+
+#include "lanes/level.h"
+
+// Numbers that are worked on at once, by the compiler's own vector types: the text is the same for
+// every processor. Every function is inlined into the kernel that calls it, which is compiled for one
+// level: none may be left over for the linker, which knows no levels and takes one for all.
+
+namespace lanes {
+
+/// `numbers` numbers in as many registers of the level as they need. While one register waits for a
+/// result, the next is worked on.
+template <typename Type, int numbers, typename Level = ThisLevel>
+struct Lanes {
+    using Number = Type;
+    using Register [[gnu::vector_size(Level::registerBytes)]] = Type;
+
+    static constexpr int count = numbers;
+    static constexpr int perRegister = static_cast<int>(Level::registerBytes / sizeof(Type));
+    static constexpr int registers = count / perRegister;
+    static_assert(registers * perRegister == count);
+
+    Register part[std::size_t{count} / std::size_t{perRegister}];
+};
+
+/// As many numbers as one register of the level holds.
+template <typename Type>
+inline constexpr int numbersPerRegister =
+    static_cast<int>(ThisLevel::registerBytes / sizeof(Type));
+
+template <std::size_t bytes>
+using IntegerOf =
+    std::conditional_t<bytes == 1, std::int8_t,
+                       std::conditional_t<bytes == 2, std::int16_t,
+                                          std::conditional_t<bytes == 4, std::int32_t, std::int64_t>>>;
+
+/// All bits of a lane set where something holds, none elsewhere.
+template <typename Some>
+using MaskOf = Lanes<IntegerOf<sizeof(typename Some::Number)>, Some::count>;
+
+/// Applies an operation to the registers of `a` and of the others, one after the other.
+template <typename Result, typename Operation, typename... Others>
+[[gnu::always_inline]] inline Result registerwise(Operation operation, const Others&... others) {
+    Result result;
+    for (int i = 0; i < Result::registers; ++i) {
+        result.part[i] = operation(others.part[i]...);
+    }
+    return result;
+}
+
+template <typename Some>
+[[gnu::always_inline]] inline Some all(typename Some::Number number) {
+    Some result;
+    for (auto& part : result.part) {
+        part = number - typename Some::Register{};  // a sum would lose the sign of -0
+    }
+    return result;
+}
+
+template <typename Some>
+[[gnu::always_inline]] inline Some load(const typename Some::Number* numbers) {
+    Some result;
+    std::memcpy(&result, numbers, sizeof result);
+    return result;
+}
+
+template <typename Number, int count>
+[[gnu::always_inline]] inline void store(const Lanes<Number, count>& lanes, Number* numbers) {
+    std::memcpy(numbers, &lanes, sizeof lanes);
+}
+
+template <typename Number, int count>
+[[gnu::always_inline]] inline Lanes<Number, count> operator+(const Lanes<Number, count>& a,
+                                                             const Lanes<Number, count>& b) {
+    return registerwise<Lanes<Number, count>>([](auto x, auto y) { return x + y; }, a, b);
+}
+
+template <typename Number, int count>
+[[gnu::always_inline]] inline Lanes<Number, count> operator-(const Lanes<Number, count>& a,
+                                                             const Lanes<Number, count>& b) {
+    return registerwise<Lanes<Number, count>>([](auto x, auto y) { return x - y; }, a, b);
+}
+
+template <typename Number, int count>
+[[gnu::always_inline]] inline Lanes<Number, count> operator*(const Lanes<Number, count>& a,
+                                                             const Lanes<Number, count>& b) {
+    return registerwise<Lanes<Number, count>>([](auto x, auto y) { return x * y; }, a, b);
+}
+
+/// Set where a > b.
+template <typename Number, int count>
+[[gnu::always_inline]] inline MaskOf<Lanes<Number, count>> operator>(
+    const Lanes<Number, count>& a, const Lanes<Number, count>& b) {
+    return registerwise<MaskOf<Lanes<Number, count>>>([](auto x, auto y) { return x > y; }, a, b);
+}
+
+template <typename Number, int count>
+[[gnu::always_inline]] inline Lanes<Number, count> operator~(const Lanes<Number, count>& a) {
+    return registerwise<Lanes<Number, count>>([](auto x) { return ~x; }, a);
+}
+
+/// The numbers where the mask is set, 0 elsewhere.
+template <typename Number, int count, typename Mask>
+[[gnu::always_inline]] inline Lanes<Number, count> operator&(const Lanes<Number, count>& a,
+                                                             const Lanes<Mask, count>& mask) {
+    static_assert(sizeof(Mask) == sizeof(Number) && std::is_integral_v<Mask>);
+    using Register = typename Lanes<Number, count>::Register;
+    using Bits = typename Lanes<Mask, count>::Register;
+    return registerwise<Lanes<Number, count>>(
+        [](auto x, auto y) {
+            return reinterpret_cast<Register>(reinterpret_cast<Bits>(x) & y);
+        },
+        a, mask);
+}
+
+template <typename Number, int count>
+[[gnu::always_inline]] inline Lanes<Number, count> larger(const Lanes<Number, count>& a,
+                                                          const Lanes<Number, count>& b) {
+    return registerwise<Lanes<Number, count>>([](auto x, auto y) { return x > y ? x : y; }, a, b);
+}
+
+template <typename Number, int count>
+[[gnu::always_inline]] inline Lanes<Number, count> smaller(const Lanes<Number, count>& a,
+                                                           const Lanes<Number, count>& b) {
+    return registerwise<Lanes<Number, count>>([](auto x, auto y) { return x < y ? x : y; }, a, b);
+}
+
+template <typename Number, int count>
+[[gnu::always_inline]] inline Number lastLane(const Lanes<Number, count>& a) {
+    using Some = Lanes<Number, count>;
+    return a.part[Some::registers - 1][Some::perRegister - 1];
+}
+
+template <typename Register, int... i>
+[[gnu::always_inline]] inline Register shiftedIn(Register before, Register numbers,
+                                                 std::integer_sequence<int, i...> /*lanes*/) {
+    constexpr int count = sizeof...(i);
+    return __builtin_shufflevector(before, numbers, (count - 1 + i)...);
+}
+
+/// Everything one lane further; `first` comes into lane 0 and the last one drops out.
+template <typename Number, int count>
+[[gnu::always_inline]] inline Lanes<Number, count> movedUp(const Lanes<Number, count>& a,
+                                                           Number first) {
+    using Some = Lanes<Number, count>;
+    using Indices = std::make_integer_sequence<int, Some::perRegister>;
+    Some result;
+    typename Some::Register before = first - typename Some::Register{};
+    for (int i = 0; i < Some::registers; ++i) {
+        result.part[i] = shiftedIn(before, a.part[i], Indices());
+        before = a.part[i];
+    }
+    return result;
+}
+
+}  // namespace lanes
