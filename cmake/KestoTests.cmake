@@ -75,20 +75,21 @@ function(kesto_discover_tests name)
         PROPERTIES LABELS ${tests_LABEL} TIMEOUT 300 ${tests_PROPERTIES})
 endfunction()
 
-# kesto_test_kernels(NAME LIBRARY OBJECTS): tests that compare kernels with the reference, once for every
-# level of the processor. A processor without AVX2 is emulated where there is none.
+# kesto_test_kernels(NAME LIBRARY OBJECTS [OPTION...]): tests that compare the kernels of a library with the
+# reference, once for every level of the processor. One with AVX2 is emulated where there is none. OPTIONs
+# are those of kesto_discover_tests.
 function(kesto_test_kernels name library objects)
     foreach(level IN LISTS kesto_levels)
         string(TOLOWER ${name}_${level} program)
         kesto_library_at_level(${program}_library ${library} ${level})
         kesto_test_program(${program}
-            LIBRARIES ${program}_library kesto_reference ${ARGN}
+            LIBRARIES ${program}_library kesto_reference
             SOURCES $<TARGET_OBJECTS:${objects}>)
         if(level STREQUAL Avx2 AND NOT KESTO_HAS_AVX2)
             find_program(KESTO_QEMU_X86_64 qemu-x86_64 REQUIRED)
             set_target_properties(${program} PROPERTIES
                 CROSSCOMPILING_EMULATOR "${KESTO_QEMU_X86_64};-cpu;max")
         endif()
-        kesto_discover_tests(${program} LABEL unit TEST_PREFIX ${level}.)
+        kesto_discover_tests(${program} LABEL unit TEST_PREFIX ${level}. ${ARGN})
     endforeach()
 endfunction()

@@ -37,7 +37,8 @@ public:
     };
 
     FloatDiffusion(std::ptrdiff_t width, float threshold)
-        : threshold_(threshold), blackAbove_(1, width, lastSkew + skew + 3 * lanes::columnsAtOnce) {}
+        : threshold_(threshold),
+          blackAbove_(1, width, lastSkew + skew + 3 * lanes::columnsAtOnce) {}
 
     [[gnu::always_inline]] static Numbers entering(const Numbers& /*level*/) {
         return all<Numbers>(0.0F);
@@ -81,7 +82,7 @@ private:
     }
 
     [[gnu::always_inline]] static void spread(State& state, const Numbers& error) {
-        const auto add = [&error](Numbers& receiver, float weight) __attribute__((always_inline)) {
+        const auto add = [&error](Numbers & receiver, float weight) __attribute__((always_inline)) {
             receiver = receiver + error * all<Numbers>(weight);
         };
         add(state.own[1], 0.505786F);

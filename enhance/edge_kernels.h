@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <memory>
 
+#include "lanes/level.h"
+
 /// Levels and dots of some rows in memory; strides in bytes.
 struct EdgeBand {
     const unsigned char* levels;
@@ -31,3 +33,7 @@ template <typename Level>
 struct EdgeKernels {
     static const EdgeTable table;
 };
+template <>
+const EdgeTable EdgeKernels<lanes::Baseline>::table;
+template <>
+const EdgeTable EdgeKernels<lanes::Avx2>::table;

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "enhance/numeric.h"
+#include "lanes/byte_words.h"
 
 namespace {
 
@@ -53,8 +54,15 @@ int firstLevelAbove(const Probabilities& p, float share) {
 
 // Neighbours often have the same level: one that counts in another table need not wait for it.
 void LevelCounts::add(const unsigned char* row, std::size_t width) {
-    for (std::size_t x = 0; x < width; ++x) {
-        ++counts_[x % counts_.size()][row[x]];
+    std::size_t x = 0;
+    for (; x + 8 <= width; x += 8) {
+        ByteWord levels = loadWord(row + x);
+        for (std::size_t i = 0; i < 8; ++i, levels >>= 8) {
+            ++counts_[i % counts_.size()][levels & 0xFF];
+        }
+    }
+    for (; x < width; ++x) {
+        ++counts_.front()[row[x]];
     }
     pixels_ += width;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "enhance/numeric.h"
+#include "lanes/byte_words.h"
 
 namespace {
 
@@ -35,6 +36,14 @@ ToneTable piecewiseGamma(int knee, float gammaLow, float gammaHigh) {
 
 void bendTones(const unsigned char* levels, std::size_t count, const ToneTable& table,
                unsigned char* bent) {
+    for (; count >= 8; count -= 8, levels += 8, bent += 8) {
+        ByteWord word = loadWord(levels);
+        ByteWord result = 0;
+        for (int bit = 0; bit < 64; bit += 8, word >>= 8) {
+            result |= ByteWord{table[word & 0xFF]} << bit;
+        }
+        storeWord(result, bent);
+    }
     std::transform(levels, levels + count, bent,
                    [&table](unsigned char level) { return table[level]; });
 }

@@ -5,54 +5,53 @@
 
 #include "enhance/numeric.h"
 #include "enhance/row_kernels.h"
+#include "lanes/choice.h"
 
 FilterTaps::FilterTaps(int ksize) : half(ksize / 2), last(std::min(half, ksize - 1 - half)) {}
 
 AlongRows::AlongRows(const double* kernel, int ksize, int width)
-    : kernel_(kernel),
-      taps_(ksize),
+    : taps_(ksize),
+      weights_(kernel, taps_.count()),
       width_(static_cast<std::size_t>(width)),
-      extended_(width_ + 2 * static_cast<std::size_t>(taps_.half)),
-      sums_(width_) {
+      extended_(inWholeBlocks(width_) + 2 * static_cast<std::size_t>(taps_.half)) {
     for (std::size_t k = 0; k < taps_.count(); ++k) {
         shifted_.push_back(extended_.data() + k);
     }
 }
 
 void AlongRows::filter(const unsigned char* row, unsigned char* out) {
+    const RowTable& kernels = lanes::best<RowKernels>();
     const auto first = extended_.begin() + taps_.half;
     const auto end = first + static_cast<std::ptrdiff_t>(width_);
-    widenToDoubles(row, width_, extended_.data() + taps_.half);
+    kernels.widen(row, width_, extended_.data() + taps_.half);
     std::fill(extended_.begin(), first, *first);
     std::fill(end, extended_.end(), *(end - 1));
-    addWeightedTaps(shifted_.data(), kernel_, taps_.count(), width_, sums_.data());
-    roundToBytes(sums_.data(), width_, out);
+    kernels.filter(shifted_.data(), weights_, width_, out);
 }
 
 AlongColumns::AlongColumns(const double* kernel, int ksize, int width, int height, ReadRow readRow)
-    : kernel_(kernel),
-      taps_(ksize),
+    : taps_(ksize),
+      weights_(kernel, taps_.count()),
       width_(static_cast<std::size_t>(width)),
       height_(height),
       readRow_(std::move(readRow)),
-      kept_(width_ * std::max<std::size_t>(taps_.count(), 1)),
+      kept_(inWholeBlocks(width_) * std::max<std::size_t>(taps_.count(), 1)),
       row_(width_),
-      under_(taps_.count()),
-      sums_(width_) {}
+      under_(taps_.count()) {}
 
 void AlongColumns::filter(int y, unsigned char* out) {
+    const RowTable& kernels = lanes::best<RowKernels>();
     for (; read_ < height_ && read_ <= y + taps_.last; ++read_) {
         readRow_(read_, row_.data());
-        widenToDoubles(row_.data(), width_, keptRow(read_));
+        kernels.widen(row_.data(), width_, keptRow(read_));
     }
     for (std::size_t k = 0; k < under_.size(); ++k) {
         under_[k] = keptRow(myClamp(y + static_cast<int>(k) - taps_.half, 0, height_ - 1));
     }
-    addWeightedTaps(under_.data(), kernel_, taps_.count(), width_, sums_.data());
-    roundToBytes(sums_.data(), width_, out);
+    kernels.filter(under_.data(), weights_, width_, out);
 }
 
-double* AlongColumns::keptRow(int y) {
-    return kept_.data() +
-           static_cast<std::size_t>(y) % std::max<std::size_t>(taps_.count(), 1) * width_;
+float* AlongColumns::keptRow(int y) {
+    return kept_.data() + static_cast<std::size_t>(y) % std::max<std::size_t>(taps_.count(), 1) *
+                              inWholeBlocks(width_);
 }

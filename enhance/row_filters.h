@@ -4,6 +4,8 @@
 #include <functional>
 #include <vector>
 
+#include "enhance/tap_weights.h"
+
 // One-dimensional filters that take an image row by row, so that no page but the first and the
 // last one of a chain of filters lies in memory.
 
@@ -29,12 +31,11 @@ public:
     void filter(const unsigned char* row, unsigned char* out);
 
 private:
-    const double* kernel_;
     FilterTaps taps_;
+    TapWeights weights_;
     std::size_t width_;
-    std::vector<double> extended_;  ///< a row with what is repeated on both sides
-    std::vector<const double*> shifted_;
-    std::vector<float> sums_;
+    std::vector<float> extended_;  ///< a row with what is repeated on both sides
+    std::vector<const float*> shifted_;
 };
 
 /// Filters along columns; the edge rows are repeated outside. Rows are asked for from the first
@@ -50,16 +51,15 @@ public:
     void filter(int y, unsigned char* out);
 
 private:
-    double* keptRow(int y);
+    float* keptRow(int y);
 
-    const double* kernel_;
     FilterTaps taps_;
+    TapWeights weights_;
     std::size_t width_;
     int height_;
     ReadRow readRow_;
-    int read_ = 0;              ///< rows read so far
-    std::vector<double> kept_;  ///< the rows under the taps, row y in place y mod their number
+    int read_ = 0;             ///< rows read so far
+    std::vector<float> kept_;  ///< the rows under the taps, row y in place y mod their number
     std::vector<unsigned char> row_;
-    std::vector<const double*> under_;
-    std::vector<float> sums_;
+    std::vector<const float*> under_;
 };

@@ -2,21 +2,37 @@
 
 #include <cstddef>
 
-// What is done to a row of pixels at a time. Each function says what it does to one pixel; where
-// there is SSE2 it does so to several at once, in the same order and with the same roundings.
+#include "enhance/tap_weights.h"
+#include "lanes/level.h"
 
-/// Row of sums: for every pixel x the products taps[k][x] × weights[k], added in double precision
-/// from the first tap to the last and rounded to single precision.
-void addWeightedTaps(const double* const* taps, const double* weights, std::size_t count,
-                     std::size_t width, float* sums);
+/// Rows are worked on so many pixels at a time: rows of floats have room for whole blocks.
+inline constexpr std::size_t rowBlock = 16;
+inline constexpr std::size_t inWholeBlocks(std::size_t width) {
+    return (width + rowBlock - 1) / rowBlock * rowBlock;
+}
 
-/// The low 8 bits of the nearest whole number of every sum.
-void roundToBytes(const float* sums, std::size_t width, unsigned char* bytes);
+/// What is done to a row of pixels at a time, as it is compiled for a level of the processor.
+struct RowTable {
+    /// For every pixel x the products taps[k][x] × weight k, added in double precision from the
+    /// first tap to the last, rounded to single precision and then to the nearest whole number, of
+    /// which the low 8 bits are written. The rows of the taps have room for whole blocks.
+    void (*filter)(const float* const* taps, const TapWeights& weights, std::size_t width,
+                   unsigned char* out);
 
-/// a × (1 + weight) - b × weight of every pixel, in single precision, rounded and limited to
-/// 0..255.
-void addWeightedRow(const unsigned char* a, const unsigned char* b, float weight, std::size_t width,
-                    unsigned char* out);
+    /// a × (1 + weight) - b × weight of every pixel, in single precision, rounded and limited to
+    /// 0..255.
+    void (*addWeighted)(const unsigned char* a, const unsigned char* b, float weight,
+                        std::size_t width, unsigned char* out);
 
-/// Every byte as a double.
-void widenToDoubles(const unsigned char* bytes, std::size_t width, double* doubles);
+    /// Every byte as a float.
+    void (*widen)(const unsigned char* bytes, std::size_t width, float* floats);
+};
+
+template <typename Level>
+struct RowKernels {
+    static const RowTable table;
+};
+template <>
+const RowTable RowKernels<lanes::Baseline>::table;
+template <>
+const RowTable RowKernels<lanes::Avx2>::table;

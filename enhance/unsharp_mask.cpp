@@ -5,6 +5,7 @@
 
 #include "enhance/gaussian.h"
 #include "enhance/row_kernels.h"
+#include "lanes/choice.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ QMImage add_Weighted(const QMImage& a, const QMImage& b, float weight) {
     QMImage result(a);
     const std::size_t pixels =
         static_cast<std::size_t>(a.width) * static_cast<std::size_t>(a.height);
-    addWeightedRow(a.data, b.data, weight, pixels, result.data);
+    lanes::best<RowKernels>().addWeighted(a.data, b.data, weight, pixels, result.data);
     return result;
 }
 
@@ -29,20 +30,29 @@ SharpenedRows::SharpenedRows(int width, int height, float amount, int radius,
                              AlongColumns::ReadRow readRow)
     : readRow_(std::move(readRow)),
       weight_(amount / 100.0F),
+      width_(static_cast<std::size_t>(width)),
+      kept_(static_cast<std::size_t>(std::max(radius, 0)) / 2 + 1),
+      rows_(width_ * kept_),
       kernel_(blurKernel(radius)),
       alongRows_(kernel_.data(), radius, width),
       alongColumns_(kernel_.data(), radius, width, height,
-                    [this](int y, unsigned char* out) {
-                        readRow_(y, row_.data());
-                        alongRows_.filter(row_.data(), out);
-                    }),
-      row_(static_cast<std::size_t>(width)),
-      blurred_(row_.size()) {}
+                    [this](int y, unsigned char* out) { alongRows_.filter(row(y), out); }),
+      blurred_(width_) {}
+
+// Each row is asked for once.
+const unsigned char* SharpenedRows::row(int y) {
+    const auto place = [this](int i) {
+        return rows_.data() + static_cast<std::size_t>(i) % kept_ * width_;
+    };
+    for (; read_ <= y; ++read_) {
+        readRow_(read_, place(read_));
+    }
+    return place(y);
+}
 
 void SharpenedRows::sharpen(int y, unsigned char* out) {
     alongColumns_.filter(y, blurred_.data());
-    readRow_(y, row_.data());
-    addWeightedRow(row_.data(), blurred_.data(), weight_, row_.size(), out);
+    lanes::best<RowKernels>().addWeighted(row(y), blurred_.data(), weight_, width_, out);
 }
 
 QMImage enh_unsharp_mask(const QMImage& src, float amount, int radius) {

@@ -27,11 +27,16 @@ public:
     void sharpen(int y, unsigned char* out);
 
 private:
+    const unsigned char* row(int y);
+
     AlongColumns::ReadRow readRow_;
     float weight_;
+    std::size_t width_;
+    std::size_t kept_;  ///< rows, from the one that is sharpened to the last one under the blur
+    std::vector<unsigned char> rows_;  ///< row y in place y mod their number
+    int read_ = 0;
     std::vector<double> kernel_;
     AlongRows alongRows_;
     AlongColumns alongColumns_;
-    std::vector<unsigned char> row_;
     std::vector<unsigned char> blurred_;
 };

@@ -91,7 +91,7 @@ private:
     [[gnu::always_inline]] static void spread(State& state, const Numbers& error,
                                               std::index_sequence<i...> /*cells*/) {
         const Numbers negative = all<Numbers>(0) > error;
-        const auto add = [&](Numbers& level, int weight) __attribute__((always_inline)) {
+        const auto add = [&](Numbers & level, int weight) __attribute__((always_inline)) {
             const Numbers share = highProduct(error, factorOf(weight)) - negative;
             level = larger(saturatedSum(level, share), all<Numbers>(raised));
         };

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <span>
 
+#include "lanes/level.h"
+
 /// One cell of an error-diffusion kernel: `weight` parts of the error go to the pixel `dx`
 /// columns right of and `dy` rows below the current one.
 struct DiffusionCell {
@@ -23,8 +25,8 @@ struct ByteRows {
     Byte* row(std::ptrdiff_t y) const { return first + y * stride; }
 };
 
-/// Diffuses the error of a page of grey levels and writes its dots in packed rows, 1 for white, each
-/// row to its last whole byte. Raises the standard allocation exception when memory is short.
+/// Diffuses the error of a page of grey levels and writes its dots in packed rows, 1 for white,
+/// each row to its last whole byte. Raises the standard allocation exception when memory is short.
 using DiffuseBytes = void (*)(const ByteRows<const std::uint8_t>& levels,
                               const ByteRows<std::uint8_t>& dots);
 
@@ -42,3 +44,7 @@ template <typename Level>
 struct DiffusionKernels {
     static const DiffusionTable table;
 };
+template <>
+const DiffusionTable DiffusionKernels<lanes::Baseline>::table;
+template <>
+const DiffusionTable DiffusionKernels<lanes::Avx2>::table;

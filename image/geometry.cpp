@@ -1,7 +1,7 @@
 #include <algorithm>
 
-#include "lanes/byte_words.h"
 #include "image/raster_image.h"
+#include "lanes/byte_words.h"
 
 namespace {
 

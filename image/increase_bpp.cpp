@@ -1,5 +1,5 @@
-#include "lanes/byte_words.h"
 #include "image/raster_image.h"
+#include "lanes/byte_words.h"
 
 namespace {
 

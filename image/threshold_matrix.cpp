@@ -4,8 +4,8 @@
 #include <array>
 #include <cstdint>
 
-#include "lanes/byte_words.h"
 #include "image/raster_image.h"
+#include "lanes/byte_words.h"
 
 namespace {
 

@@ -10,8 +10,9 @@ bool hasAvx2();
 /// The name of the level that runs here.
 const char* levelName();
 
-/// The kernels of the best level that is built and that this processor can run. `Kernels<Level>` has
-/// them in a static member `table`, which the kernels' file defines for the level it is compiled for.
+/// The kernels of the best level that is built and that this processor can run. `Kernels<Level>`
+/// has them in a static member `table`, which the kernels' file defines for the level it is
+/// compiled for.
 template <template <typename> typename Kernels>
 const auto& best() {
 #ifdef LANES_WITH_AVX2

@@ -9,8 +9,8 @@
 #include "lanes/level.h"
 
 // Numbers that are worked on at once, by the compiler's own vector types: the text is the same for
-// every processor. Every function is inlined into the kernel that calls it, which is compiled for one
-// level: none may be left over for the linker, which knows no levels and takes one for all.
+// every processor. Every function is inlined into the kernel that calls it, which is compiled for
+// one level: none may be left over for the linker, which knows no levels and takes one for all.
 
 namespace lanes {
 
@@ -31,14 +31,13 @@ struct Lanes {
 
 /// As many numbers as one register of the level holds.
 template <typename Type>
-inline constexpr int numbersPerRegister =
-    static_cast<int>(ThisLevel::registerBytes / sizeof(Type));
+inline constexpr int numbersPerRegister = static_cast<int>(ThisLevel::registerBytes / sizeof(Type));
 
 template <std::size_t bytes>
-using IntegerOf =
-    std::conditional_t<bytes == 1, std::int8_t,
-                       std::conditional_t<bytes == 2, std::int16_t,
-                                          std::conditional_t<bytes == 4, std::int32_t, std::int64_t>>>;
+using IntegerOf = std::conditional_t<
+    bytes == 1, std::int8_t,
+    std::conditional_t<bytes == 2, std::int16_t,
+                       std::conditional_t<bytes == 4, std::int32_t, std::int64_t>>>;
 
 /// All bits of a lane set where something holds, none elsewhere.
 template <typename Some>
@@ -65,14 +64,20 @@ template <typename Some>
 
 template <typename Some>
 [[gnu::always_inline]] inline Some load(const typename Some::Number* numbers) {
+    // Register by register: compilers copy a whole struct in pieces of their own.
     Some result;
-    std::memcpy(&result, numbers, sizeof result);
+    for (int i = 0; i < Some::registers; ++i) {
+        std::memcpy(&result.part[i], numbers + i * Some::perRegister, sizeof result.part[i]);
+    }
     return result;
 }
 
 template <typename Number, int count>
 [[gnu::always_inline]] inline void store(const Lanes<Number, count>& lanes, Number* numbers) {
-    std::memcpy(numbers, &lanes, sizeof lanes);
+    using Some = Lanes<Number, count>;
+    for (int i = 0; i < Some::registers; ++i) {
+        std::memcpy(numbers + i * Some::perRegister, &lanes.part[i], sizeof lanes.part[i]);
+    }
 }
 
 template <typename Number, int count>
@@ -113,10 +118,15 @@ template <typename Number, int count, typename Mask>
     using Register = typename Lanes<Number, count>::Register;
     using Bits = typename Lanes<Mask, count>::Register;
     return registerwise<Lanes<Number, count>>(
-        [](auto x, auto y) {
-            return reinterpret_cast<Register>(reinterpret_cast<Bits>(x) & y);
-        },
-        a, mask);
+        [](auto x, auto y) { return reinterpret_cast<Register>(reinterpret_cast<Bits>(x) & y); }, a,
+        mask);
+}
+
+/// Where either mask is set.
+template <typename Number, int count>
+[[gnu::always_inline]] inline Lanes<Number, count> operator|(const Lanes<Number, count>& a,
+                                                             const Lanes<Number, count>& b) {
+    return registerwise<Lanes<Number, count>>([](auto x, auto y) { return x | y; }, a, b);
 }
 
 template <typename Number, int count>
@@ -137,11 +147,27 @@ template <typename Number, int count>
     return a.part[Some::registers - 1][Some::perRegister - 1];
 }
 
+/// A register's numbers one lane further, behind the last one of the register before.
 template <typename Register, int... i>
-[[gnu::always_inline]] inline Register shiftedIn(Register before, Register numbers,
-                                                 std::integer_sequence<int, i...> /*lanes*/) {
+[[gnu::always_inline]] inline Register movedBehind(Register before, Register numbers,
+                                                   std::integer_sequence<int, i...> /*lanes*/) {
     constexpr int count = sizeof...(i);
     return __builtin_shufflevector(before, numbers, (count - 1 + i)...);
+}
+
+/// The same behind a number. Which of the two ways is the shorter one depends on the width: of the
+/// other, compilers make a dozen instructions or take a lane out and put it in again.
+template <typename Register, typename Number, int... i>
+[[gnu::always_inline]] inline Register movedBehind(Number before, Register numbers,
+                                                   std::integer_sequence<int, i...> lanes) {
+    if constexpr (sizeof(Register) == 16) {
+        constexpr int count = sizeof...(i);
+        Register moved = __builtin_shufflevector(Register{}, numbers, (count - 1 + i)...);
+        moved[0] = before;
+        return moved;
+    } else {
+        return movedBehind(before - Register{}, numbers, lanes);
+    }
 }
 
 /// Everything one lane further; `first` comes into lane 0 and the last one drops out.
@@ -151,10 +177,9 @@ template <typename Number, int count>
     using Some = Lanes<Number, count>;
     using Indices = std::make_integer_sequence<int, Some::perRegister>;
     Some result;
-    typename Some::Register before = first - typename Some::Register{};
-    for (int i = 0; i < Some::registers; ++i) {
-        result.part[i] = shiftedIn(before, a.part[i], Indices());
-        before = a.part[i];
+    result.part[0] = movedBehind(first, a.part[0], Indices());
+    for (int i = 1; i < Some::registers; ++i) {
+        result.part[i] = movedBehind(a.part[i - 1], a.part[i], Indices());
     }
     return result;
 }

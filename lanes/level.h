@@ -2,8 +2,9 @@
 
 #include <cstddef>
 
-// Kernels are compiled once for each level of the processor, from one text. LANES_LEVEL is the level
-// of the file that is being compiled; the build sets it beside the compiler's options for that level.
+// Kernels are compiled once for each level of the processor, from one text. LANES_LEVEL is the
+// level of the file that is being compiled; the build sets it beside the compiler's options for
+// that level.
 
 #ifndef LANES_LEVEL
 #define LANES_LEVEL Baseline

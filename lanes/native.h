@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "lanes/bytes.h"
 #include "lanes/lanes.h"
 
 #ifndef LANES_PLAIN
@@ -15,15 +16,19 @@
 #endif
 #endif
 
-// The few operations that compilers do not find in plain text: one instruction of the processor's where
-// it has one, and the plain text elsewhere. With LANES_PLAIN everything is plain text.
+// The few operations that compilers do not find in plain text: one instruction of the processor's
+// where it has one, and the plain text elsewhere. With LANES_PLAIN everything is plain text.
 
 namespace lanes {
+
+using EightIntegers = Lanes<std::int32_t, 8>;
+using SixteenIntegers = Lanes<std::int32_t, 16>;
 
 template <std::size_t bytes>
 using Words [[gnu::vector_size(bytes)]] = std::int16_t;
 
 using WordRegister = Words<ThisLevel::registerBytes>;
+using IntegerRegister = EightIntegers::Register;
 
 #if !defined(LANES_PLAIN) && defined(__AVX2__)
 
@@ -37,6 +42,25 @@ using WordRegister = Words<ThisLevel::registerBytes>;
         _mm256_mulhi_epi16(reinterpret_cast<__m256i>(a), reinterpret_cast<__m256i>(b)));
 }
 
+[[gnu::always_inline]] inline bool isAny(IntegerRegister mask) {
+    const auto bits = reinterpret_cast<__m256i>(mask);
+    return _mm256_testz_si256(bits, bits) == 0;
+}
+
+/// The first eight bytes as numbers of four bytes each.
+[[gnu::always_inline]] inline EightIntegers asIntegers(Bytes bytes) {
+    return {{reinterpret_cast<EightIntegers::Register>(
+        _mm256_cvtepu8_epi32(reinterpret_cast<__m128i>(bytes)))}};
+}
+
+[[gnu::always_inline]] inline Bytes limitedBytes(const SixteenIntegers& numbers) {
+    const __m256i words = _mm256_packs_epi32(reinterpret_cast<__m256i>(numbers.part[0]),
+                                             reinterpret_cast<__m256i>(numbers.part[1]));
+    const __m256i inOrder = _mm256_permute4x64_epi64(words, 0xD8);
+    return reinterpret_cast<Bytes>(
+        _mm_packus_epi16(_mm256_castsi256_si128(inOrder), _mm256_extracti128_si256(inOrder, 1)));
+}
+
 #elif !defined(LANES_PLAIN) && defined(__SSE2__)
 
 [[gnu::always_inline]] inline WordRegister saturatedSum(WordRegister a, WordRegister b) {
@@ -47,6 +71,18 @@ using WordRegister = Words<ThisLevel::registerBytes>;
 [[gnu::always_inline]] inline WordRegister highProduct(WordRegister a, WordRegister b) {
     return reinterpret_cast<WordRegister>(
         _mm_mulhi_epi16(reinterpret_cast<__m128i>(a), reinterpret_cast<__m128i>(b)));
+}
+
+[[gnu::always_inline]] inline bool isAny(IntegerRegister mask) {
+    return _mm_movemask_epi8(reinterpret_cast<__m128i>(mask)) != 0;
+}
+
+[[gnu::always_inline]] inline Bytes limitedBytes(const SixteenIntegers& numbers) {
+    const auto words = [&numbers](int i) {
+        return _mm_packs_epi32(reinterpret_cast<__m128i>(numbers.part[i]),
+                               reinterpret_cast<__m128i>(numbers.part[i + 1]));
+    };
+    return reinterpret_cast<Bytes>(_mm_packus_epi16(words(0), words(2)));
 }
 
 #else
@@ -72,7 +108,47 @@ using WordRegister = Words<ThisLevel::registerBytes>;
         (__builtin_convertvector(a, Wide) * __builtin_convertvector(b, Wide)) >> 16, WordRegister);
 }
 
+[[gnu::always_inline]] inline bool isAny(IntegerRegister mask) {
+    using Halves [[gnu::vector_size(ThisLevel::registerBytes)]] = std::int64_t;
+    const auto halves = reinterpret_cast<Halves>(mask);
+    return (halves[0] | halves[1]) != 0;
+}
+
+/// Limited to 0..255.
+[[gnu::always_inline]] inline Bytes limitedBytes(const SixteenIntegers& numbers) {
+    const SixteenIntegers none = all<SixteenIntegers>(0);
+    const SixteenIntegers limited = smaller(larger(numbers, none), all<SixteenIntegers>(255));
+    std::int32_t integers[SixteenIntegers::count];
+    store(limited, integers);
+    Bytes bytes;
+    for (int i = 0; i < SixteenIntegers::count; ++i) {
+        bytes[i] = static_cast<std::uint8_t>(integers[i]);
+    }
+    return bytes;
+}
+
 #endif
+
+#if defined(LANES_PLAIN) || !defined(__AVX2__)
+
+/// The first eight bytes as numbers of four bytes each.
+[[gnu::always_inline]] inline EightIntegers asIntegers(Bytes bytes) {
+    const Bytes words = firstWidened<1>(bytes);
+    return {{reinterpret_cast<EightIntegers::Register>(firstWidened<2>(words)),
+             reinterpret_cast<EightIntegers::Register>(lastWidened<2>(words))}};
+}
+
+#endif
+
+/// Whether a mask is set anywhere.
+template <int count>
+[[gnu::always_inline]] inline bool isAny(const Lanes<std::int32_t, count>& mask) {
+    IntegerRegister any = mask.part[0];
+    for (int i = 1; i < Lanes<std::int32_t, count>::registers; ++i) {
+        any |= mask.part[i];
+    }
+    return isAny(any);
+}
 
 /// The sum, limited to what 16 bits hold.
 template <int count>

@@ -12,13 +12,14 @@
 
 // Error diffusion on several rows at once. Each row runs a fixed number of columns behind the row
 // above it, so that every pixel has all shares of the rows above before it gets the first one of
-// its own row: the order, and with it every rounding, is that of going through the page pixel by pixel.
+// its own row: the order, and with it every rounding, is that of going through the page pixel by
+// pixel.
 //
 // A lane is a row. What a row still needs of its surroundings - the numbers of the columns ahead
 // in it and of the columns around in the rows below, with the shares received so far - moves
 // along with it in a few registers, its windows. A number that leaves the window over the row
-// below enters the windows of the lane of that row. What leaves the last lane is carried to the next
-// band of rows.
+// below enters the windows of the lane of that row. What leaves the last lane is carried to the
+// next band of rows.
 
 namespace lanes {
 
@@ -31,7 +32,8 @@ struct Reach {
 };
 
 /// A row for every lane and some columns more on both sides, so that nothing has to be asked where
-/// the page begins and ends: what lies outside is taken and written like the rest, and means nothing.
+/// the page begins and ends: what lies outside is taken and written like the rest, and means
+/// nothing.
 template <typename Number>
 class WideRows {
 public:
@@ -49,8 +51,8 @@ private:
     std::vector<Number> numbers_;
 };
 
-/// What moves along with the rows: the numbers in columns 0 to `ahead` of a row, and around it in the
-/// rows below.
+/// What moves along with the rows: the numbers in columns 0 to `ahead` of a row, and around it in
+/// the rows below.
 template <typename Numbers, Reach reach>
 struct Windows {
     std::array<Numbers, std::size_t{reach.ahead + 1}> own;
@@ -71,21 +73,20 @@ template <typename Numbers, std::size_t size>
     window.back() = last;
 }
 
-/// A band of rows at a time of a page, with what one band leaves to the next. What lies in the rows is
-/// put in and taken out through `levels`, `carried` and `dots`.
+/// A band of rows at a time of a page, with what one band leaves to the next. What lies in the rows
+/// is put in and taken out through `levels`, `carried` and `dots`.
 ///
 /// `Arithmetic` says what is diffused and how. It has
 ///
 ///   Numbers, the lanes of what is diffused, and State, derived from Windows<Numbers, reach>;
-///   reach; levelsBelow, whether the bytes of a row come into the lowest window, as what the row holds
-///   at first, or to the pixel; border, columns and rows around a pixel in which it must know whether
-///   there is a page; columnsPerByte of dots;
-///   entering(level): what comes into the lowest window;
-///   decide<inner>(state, level, time, within): the dots of one column, and the shares of their error;
-///   within(n) has the lanes whose pixel lies on the page with n columns and rows around it, and is not
-///   asked in inner columns, where all do;
-///   State::dots, a bit for every column, the last decided in the lowest one;
-///   store(dots, x, row): the dots that a lane has in eight columns, of which the first is x.
+///   reach; levelsBelow, whether the bytes of a row come into the lowest window, as what the row
+///   holds at first, or to the pixel; border, columns and rows around a pixel in which it must know
+///   whether there is a page; columnsPerByte of dots; entering(level): what comes into the lowest
+///   window; decide<inner>(state, level, time, within): the dots of one column, and the shares of
+///   their error; within(n) has the lanes whose pixel lies on the page with n columns and rows
+///   around it, and is not asked in inner columns, where all do; State::dots, a bit for every
+///   column, the last decided in the lowest one; store(dots, x, row): the dots that a lane has in
+///   eight columns, of which the first is x.
 template <typename Arithmetic>
 class Wavefront {
     using Numbers = typename Arithmetic::Numbers;
@@ -119,16 +120,18 @@ public:
     /// The dots of a lane's row.
     const std::uint8_t* dots(int lane) { return dots_.row(lane); }
 
-    /// Decides the dots of the band that begins in row `top`. Time is the column of lane 0; the windows
-    /// fill before the page's first column and empty behind its last one.
+    /// Decides the dots of the band that begins in row `top`. Time is the column of lane 0; the
+    /// windows fill before the page's first column and empty behind its last one.
     void diffuseBand(Index top) {
         const bool innerRows =
             top >= Arithmetic::border && top + rows + Arithmetic::border <= height_;
         const Index end = width_ + lastSkew + reach.behind + 1 + columnsAtOnce;
         top_ = top;
-        // By value: the compiler cannot know that the bytes written to rows are none of this object's.
-        const Memory memory = {levels_.row(0), levels_.stride() - skew, carried_.row(0),
-                               carried_.stride(), dots_.row(0), dots_.stride()};
+        // By value: the compiler cannot know that the bytes written to rows are none of this
+        // object's.
+        const Memory memory = {levels_.row(0),  levels_.stride() - skew,
+                               carried_.row(0), carried_.stride(),
+                               dots_.row(0),    dots_.stride()};
         State state{};
         for (Index block = -1; block * columnsAtOnce < end; ++block) {
             const Index time = block * columnsAtOnce;
@@ -162,7 +165,8 @@ private:
         const Index time = block * columnsAtOnce;
         const std::array<Numbers, columnsAtOnce> levels =
             loadColumns<Numbers>(memory.levels + time + place, memory.levelDistance);
-        diffuseColumns<inner>(state, memory, time, levels, std::make_index_sequence<columnsAtOnce>());
+        diffuseColumns<inner>(state, memory, time, levels,
+                              std::make_index_sequence<columnsAtOnce>());
         std::array<typename Mask::Number, std::size_t{rows}> dots;
         store(state.dots, dots.data());
         for (int lane = 0; lane < rows; ++lane) {
@@ -189,7 +193,7 @@ private:
     // All windows one column to the right: the numbers that leave them on the left enter the
     // windows of the next lane. Lane 0 takes over what the band before has left.
     [[gnu::always_inline]] static void moveWindows(State& state, const Memory& memory, Index time,
-                                            const Numbers& entering) {
+                                                   const Numbers& entering) {
         std::array<Numbers, std::size_t{depth}> handedDown;
         for (int k = 0; k < depth; ++k) {
             Number* row = memory.carried + k * memory.carriedStride;

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <utility>
+
+#include "lanes/bytes.h"
+#include "lanes/lanes.h"
+#include "lanes/native.h"
+
+// From numbers of one kind to those of another.
+
+namespace lanes {
+
+/// Bytes as numbers of two bytes each; the first eight or all sixteen of them.
+template <int count>
+[[gnu::always_inline]] inline Lanes<std::int16_t, count> asWords(Bytes bytes) {
+    using Some = Lanes<std::int16_t, count>;
+    if constexpr (count == 8) {
+        return {{reinterpret_cast<Words<16>>(firstWidened<1>(bytes))}};
+    } else if constexpr (Some::registers == 1) {
+        return {{__builtin_convertvector(bytes, typename Some::Register)}};
+    } else {
+        return {{reinterpret_cast<Words<16>>(firstWidened<1>(bytes)),
+                 reinterpret_cast<Words<16>>(lastWidened<1>(bytes))}};
+    }
+}
+
+template <int count>
+[[gnu::always_inline]] inline Lanes<float, count> asFloats(const Lanes<std::int32_t, count>& all) {
+    using Some = Lanes<float, count>;
+    return registerwise<Some>(
+        [](auto x) { return __builtin_convertvector(x, typename Some::Register); }, all);
+}
+
+template <int count>
+[[gnu::always_inline]] inline Lanes<std::int32_t, count> integersOf(
+    const Lanes<float, count>& numbers) {
+    using Some = Lanes<std::int32_t, count>;
+    return registerwise<Some>(
+        [](auto x) { return __builtin_convertvector(x, typename Some::Register); }, numbers);
+}
+
+/// Sixteen bytes in memory as floats.
+[[gnu::always_inline]] inline Lanes<float, 16> loadFloats(const std::uint8_t* bytes) {
+    const Lanes<float, 8> first = asFloats(asIntegers(loadEight(bytes)));
+    const Lanes<float, 8> last = asFloats(asIntegers(loadEight(bytes + 8)));
+    Lanes<float, 16> result;
+    for (int i = 0; i < first.registers; ++i) {
+        result.part[i] = first.part[i];
+        result.part[first.registers + i] = last.part[i];
+    }
+    return result;
+}
+
+/// Floats in memory as doubles.
+template <int count>
+[[gnu::always_inline]] inline Lanes<double, count> loadDoubles(const float* numbers) {
+    using Some = Lanes<double, count>;
+    using Half [[gnu::vector_size(ThisLevel::registerBytes / 2)]] = float;
+    Some result;
+    for (int i = 0; i < Some::registers; ++i) {
+        Half half;
+        std::memcpy(&half, numbers + i * Some::perRegister, sizeof half);
+        result.part[i] = __builtin_convertvector(half, typename Some::Register);
+    }
+    return result;
+}
+
+template <typename Register, typename Half, int... i>
+[[gnu::always_inline]] inline Register joined(Half first, Half last,
+                                              std::integer_sequence<int, i...> /*numbers*/) {
+    return __builtin_shufflevector(first, last, i...);
+}
+
+/// Doubles, each rounded to a float.
+template <int count>
+[[gnu::always_inline]] inline Lanes<float, count> asFloats(const Lanes<double, count>& numbers) {
+    using Some = Lanes<float, count>;
+    using Half [[gnu::vector_size(ThisLevel::registerBytes / 2)]] = float;
+    Some result;
+    for (int i = 0; i < Some::registers; ++i) {
+        result.part[i] =
+            joined<typename Some::Register>(__builtin_convertvector(numbers.part[2 * i], Half),
+                                            __builtin_convertvector(numbers.part[2 * i + 1], Half),
+                                            std::make_integer_sequence<int, Some::perRegister>());
+    }
+    return result;
+}
+
+/// Stores sixteen numbers as bytes, limited to 0..255.
+[[gnu::always_inline]] inline void storeLimited(const Lanes<std::int32_t, 16>& numbers,
+                                                std::uint8_t* bytes) {
+    const Bytes limited = limitedBytes(numbers);
+    std::memcpy(bytes, &limited, sizeof limited);
+}
+
+}  // namespace lanes
