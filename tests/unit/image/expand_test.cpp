@@ -149,6 +149,17 @@ TEST(Expand, LeavesTheImageWithATextBeyondTheLimit) {
     EXPECT_EQ(rowsOf(image), (Bytes{1, 2, 3, 4}));
 }
 
+// Sides that wrap around in 32 bits are among them where a long is longer.
+std::vector<long> hugeBorders() {
+    std::vector<long> borders = {LONG_MAX, LONG_MAX / 2 + 1};
+    for (const std::int64_t border : {0xFFFFFFFFLL, 0x100000000LL}) {
+        if (border <= LONG_MAX) {
+            borders.push_back(static_cast<long>(border));
+        }
+    }
+    return borders;
+}
+
 // Sums of borders that wrap around would give a small image.
 TEST(Expand, FailsForHugeBorders) {
     const auto fails = [](long left, long top, long right, long bottom) {
@@ -157,7 +168,7 @@ TEST(Expand, FailsForHugeBorders) {
         const bool expanded = image.Expand(left, top, right, bottom, white);
         return !expanded && rowsOf(image) == Bytes{1, 2, 3, 4} && *image.GetLastError() != '\0';
     };
-    for (const long border : {LONG_MAX, LONG_MAX / 2 + 1, 0xFFFFFFFFL, 0x100000000L}) {
+    for (const long border : hugeBorders()) {
         EXPECT_TRUE(fails(border, 0, 0, 0)) << border;
         EXPECT_TRUE(fails(0, border, 0, 0)) << border;
         EXPECT_TRUE(fails(0, 0, border, 0)) << border;
