@@ -135,6 +135,7 @@ void RasterImage::clearRowEnds() {
 // can memory be short, and then the former image is still there.
 bool RasterImage::ReplaceByGrey(std::uint32_t width, std::uint32_t height) {
     RasterImage result;
+    result.CopyInfo(*this);
     const bool allowed = result.describe(width, height, 8, 0);
     if (allowed && dib && GetSize() == result.GetSize()) {
         result.useBlock(std::move(dib));

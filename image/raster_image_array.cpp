@@ -45,6 +45,10 @@ bool RasterImage::LoadGrey(const std::uint8_t* array, std::uint32_t width, std::
     if (array == nullptr || !ReplaceByGrey(width, height)) {
         return false;
     }
+    // Pixels that no row reaches are 0, not those of the former image.
+    if (bytesPerLine < width) {
+        std::memset(info.bits, 0, header.biSizeImage);
+    }
     copyRows(array, bytesPerLine, false);
     return true;
 }

@@ -148,6 +148,71 @@ TEST(LoadGrey, IsThatOfCreateFromArrayAtAllWidthsAndDistances) {
     }
 }
 
+// Once over no image, once over one of the same size, whose block is used on.
+TEST(LoadGrey, LeavesZerosWhereAShortRowEnds) {
+    const Bytes rows = {1, 2, 3, 4};
+    RasterImage image;
+    for (int time = 0; time < 2; ++time) {
+        ASSERT_TRUE(image.LoadGrey(rows.data(), 6, 2, 2));
+        EXPECT_EQ(rowsOf(image), (Bytes{1, 2, 0, 0, 0, 0, 0, 0, 3, 4, 0, 0, 0, 0, 0, 0}));
+        ASSERT_TRUE(image.LoadGrey(Bytes(12, 99).data(), 6, 2, 6));
+    }
+}
+
+TEST(LoadGrey, CopiesNothingAtARowDistanceOfZero) {
+    const Bytes row = {1};
+    RasterImage image;
+    ASSERT_TRUE(image.LoadGrey(Bytes(8, 99).data(), 4, 2, 4));
+    ASSERT_TRUE(image.LoadGrey(row.data(), 4, 2, 0));
+    EXPECT_EQ(rowsOf(image), Bytes(8, 0));
+}
+
+// Success says nothing: the text is that of the last failure, whichever function fills the image.
+TEST(LoadGrey, KeepsTheTextOfAnEarlierFailureAsCreateFromArrayDoes) {
+    const Bytes row = {1, 2, 3, 4};
+    RasterImage loaded;
+    RasterImage created;
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_FALSE(loaded.LoadGrey(row.data(), 0, 1, 4));
+        EXPECT_FALSE(created.CreateFromArray(row.data(), 0, 1, 8, 4, false));
+        ASSERT_TRUE(loaded.LoadGrey(row.data(), 4, 1, 4));
+        ASSERT_TRUE(created.CreateFromArray(row.data(), 4, 1, 8, 4, false));
+        EXPECT_STREQ(loaded.GetLastError(), sizeText);
+        EXPECT_STREQ(created.GetLastError(), sizeText);
+    }
+}
+
+TEST(LoadGrey, KeepsTheNearestColourRecordAsCreateFromArrayDoes) {
+    const Bytes row = {1, 2, 3, 4};
+    RasterImage loaded;
+    RasterImage created;
+    ASSERT_TRUE(loaded.LoadGrey(row.data(), 4, 1, 4));
+    ASSERT_TRUE(created.CreateFromArray(row.data(), 4, 1, 8, 4, false));
+    for (RasterImage* image : {&loaded, &created}) {
+        image->GetNearestIndex({30, 30, 30, 5});
+    }
+    ASSERT_TRUE(loaded.LoadGrey(row.data(), 2, 2, 2));
+    ASSERT_TRUE(created.CreateFromArray(row.data(), 2, 2, 8, 2, false));
+    for (const RasterImage* image : {&loaded, &created}) {
+        EXPECT_EQ(image->GetInfo().lastColor, (tagRGBQUAD{30, 30, 30, 5}));
+        EXPECT_EQ(image->GetInfo().lastColorIndex, 30U);
+        EXPECT_TRUE(image->GetInfo().lastColorValid);
+    }
+}
+
+TEST(LoadGrey, FailsWithTheTextsOfCreate) {
+    const Bytes row = {5};
+    RasterImage image;
+    EXPECT_FALSE(image.LoadGrey(row.data(), 0, 1, 1));
+    EXPECT_STREQ(image.GetLastError(), sizeText);
+    EXPECT_FALSE(image.LoadGrey(row.data(), 0x20000000, 1, 1));
+    EXPECT_STREQ(image.GetLastError(), limitText);
+    const NoMemory none;
+    EXPECT_FALSE(image.LoadGrey(row.data(), 1, 1, 1));
+    EXPECT_STREQ(image.GetLastError(), memoryText);
+    EXPECT_FALSE(image.IsValid());
+}
+
 TEST(LoadGrey, LeavesTheFormerImageWhenThereIsNoMemory) {
     const reference::Bytes former = {1, 2, 3, 4};
     RasterImage image;
