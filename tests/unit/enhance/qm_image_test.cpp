@@ -2,7 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstddef>
+#include <cstring>
+#include <new>
 #include <vector>
+
+#include "tests/support/test_new.h"
 
 namespace {
 
@@ -89,6 +95,93 @@ TEST(QMImage, SurvivesBeingAssignedToItself) {
     const QMImage& itself = image;
     image = itself;
     EXPECT_EQ(bytesOf(image), source);
+}
+
+TEST(QMImage, AnAssignedImageSharesNothingWithItsSource) {
+    const Bytes source = {1, 2, 3, 4};
+    QMImage original(2, 2, QM_IMG_GRAY, source.data());
+    QMImage target(2, 2, QM_IMG_GRAY, Bytes(4, 7).data());
+    target = original;
+    original.data[0] = 99;
+    EXPECT_EQ(bytesOf(target), source);
+}
+
+TEST(QMImage, AssignmentFreesTheFormerBuffer) {
+    const QMImage original(3, 1, QM_IMG_GRAY, Bytes(3, 1).data());
+    QMImage target(5, 5, QM_IMG_RGB, Bytes(75, 7).data());
+    const std::ptrdiff_t blocks = liveNewBlocks();
+    target = original;
+    EXPECT_EQ(liveNewBlocks(), blocks);
+}
+
+TEST(QMImage, AssignmentOfAnEmptyImageLeavesAnEmptyOne) {
+    const QMImage empty;
+    QMImage target(2, 2, QM_IMG_GRAY, Bytes(4, 7).data());
+    target = empty;
+    EXPECT_EQ(target.width, 0);
+    EXPECT_EQ(target.height, 0);
+    EXPECT_EQ(target.channels, 4);
+    EXPECT_EQ(target.color, QM_IMG_BGR);
+    EXPECT_EQ(target.size(), 0U);
+}
+
+TEST(QMImage, AssignmentWithoutMemoryLeavesTheTargetAsItWas) {
+    const Bytes before = {1, 2, 3, 4};
+    const QMImage original(3, 1, QM_IMG_RGB, Bytes(9, 7).data());
+    QMImage target(2, 2, QM_IMG_GRAY, before.data());
+    const std::ptrdiff_t blocks = liveNewBlocks();
+    {
+        const FailingNew failing(1);
+        EXPECT_THROW(target = original, std::bad_alloc);
+    }
+    EXPECT_EQ(liveNewBlocks(), blocks);
+    EXPECT_EQ(target.width, 2);
+    EXPECT_EQ(target.height, 2);
+    EXPECT_EQ(target.channels, 1);
+    EXPECT_EQ(target.color, QM_IMG_GRAY);
+    EXPECT_EQ(bytesOf(target), before);
+}
+
+/// What is left of an image's members, read where it lay.
+struct Remains {
+    int width = -1;
+    int height = -1;
+    int channels = -1;
+};
+
+template <typename... Arguments>
+Remains remainsOf(Arguments... arguments) {
+    alignas(QMImage) std::array<std::byte, sizeof(QMImage)> place{};
+    auto* image = new (place.data()) QMImage(arguments...);
+    const auto at = [&place](const int& member) {
+        return reinterpret_cast<const std::byte*>(&member) - place.data();
+    };
+    const std::ptrdiff_t offsets[] = {at(image->width), at(image->height), at(image->channels)};
+    image->~QMImage();
+    const auto read = [&place](std::ptrdiff_t offset) {
+        int value = -1;
+        std::memcpy(&value, place.data() + offset, sizeof value);
+        return value;
+    };
+    return {read(offsets[0]), read(offsets[1]), read(offsets[2])};
+}
+
+void expectNothing(const Remains& remains) {
+    EXPECT_EQ(remains.width, 0);
+    EXPECT_EQ(remains.height, 0);
+    EXPECT_EQ(remains.channels, 0);
+}
+
+TEST(QMImage, ADestroyedImageHasSizesOfZero) {
+    expectNothing(remainsOf(3, 2, QM_IMG_RGB));
+    expectNothing(remainsOf(0, 2, QM_IMG_GRAY));
+    expectNothing(remainsOf());
+}
+
+TEST(QMImage, ADestroyedImageHasFreedItsBuffer) {
+    const std::ptrdiff_t blocks = liveNewBlocks();
+    remainsOf(3, 2, QM_IMG_RGB);
+    EXPECT_EQ(liveNewBlocks(), blocks);
 }
 
 TEST(QMImage, AWidthOrHeightOfZeroGivesAnEmptyBuffer) {
