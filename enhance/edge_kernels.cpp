@@ -34,21 +34,30 @@ public:
     struct State : lanes::Windows<Numbers, reach> {
         std::array<Mask, skew> black;  ///< the last dots, oldest first
         Mask dots;                     ///< one bit each
+        Numbers threshold;
+        std::int32_t* blackAbove;  ///< the last row of the band before
     };
 
     FloatDiffusion(std::ptrdiff_t width, float threshold)
         : threshold_(threshold),
           blackAbove_(1, width, lastSkew + skew + 3 * lanes::columnsAtOnce) {}
 
+    State start() {
+        State state{};
+        state.threshold = all<Numbers>(threshold_);
+        state.blackAbove = blackAbove_.row(0);
+        return state;
+    }
+
     [[gnu::always_inline]] static Numbers entering(const Numbers& /*level*/) {
         return all<Numbers>(0.0F);
     }
 
     template <bool inner, typename Within>
-    [[gnu::always_inline]] void decide(State& state, const Numbers& level, std::ptrdiff_t time,
-                                       Within within) {
+    [[gnu::always_inline]] static void decide(State& state, const Numbers& level,
+                                              std::ptrdiff_t time, Within within) {
         const Numbers value = state.own[0] + level;
-        const Mask white = value > all<Numbers>(threshold_);
+        const Mask white = value > state.threshold;
         Numbers relief = all<Numbers>(blackNeighbourRelief) & state.black.back();
         relief = relief + (all<Numbers>(blackNeighbourRelief) & blackAbove(state, time));
         if constexpr (!inner) {
@@ -73,8 +82,8 @@ public:
 private:
     // As the errors do, the dots of a row reach the lane of the row below, and those of the last
     // lane the next band.
-    [[gnu::always_inline]] Mask blackAbove(const State& state, std::ptrdiff_t time) {
-        std::int32_t* row = blackAbove_.row(0);
+    [[gnu::always_inline]] static Mask blackAbove(const State& state, std::ptrdiff_t time) {
+        std::int32_t* row = state.blackAbove;
         const Mask leaving = state.black.front();
         const Mask above = movedUp(leaving, row[time]);
         row[time - lastSkew - skew] = lastLane(leaving);

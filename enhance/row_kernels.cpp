@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <utility>
 
 #include "lanes/conversion.h"
 #include "lanes/lanes.h"
@@ -15,6 +16,10 @@ using lanes::Lanes;
 using Floats = Lanes<float, rowBlock>;
 using Integers = Lanes<std::int32_t, rowBlock>;
 using Doubles = Lanes<double, rowBlock>;
+
+[[gnu::always_inline]] inline Floats asFloats(const std::uint8_t* bytes) {
+    return lanes::asFloats<Floats::count>(lanes::loadBytes(bytes));
+}
 
 // As truncateToInt does, but that numbers without a place in 32 bits become 0: nothing but the low
 // bits of the smallest integer, or whether it is below 0, is asked for here.
@@ -47,15 +52,17 @@ void filterExactly(const float* const* taps, const TapWeights& weights, std::siz
     lanes::storeLimited(truncated(withHalf(sums)) & all<Integers>(0xFF), out);
 }
 
+[[gnu::always_inline]] inline Floats tap(const float* const* taps, std::size_t k, std::size_t x) {
+    return lanes::load<Floats>(taps[k] + x);
+}
+
+template <std::size_t... k>
 [[gnu::always_inline]] inline Floats nearSums(const float* const* taps, const TapWeights& weights,
-                                              std::size_t x) {
-    const std::size_t middle = weights.count / 2;
-    Floats sums = lanes::load<Floats>(taps[middle] + x) * all<Floats>(weights.near[middle]);
-    for (std::size_t k = 0; k < middle; ++k) {
-        const Floats pair =
-            lanes::load<Floats>(taps[k] + x) + lanes::load<Floats>(taps[weights.count - 1 - k] + x);
-        sums = sums + pair * all<Floats>(weights.near[k]);
-    }
+                                              std::size_t x, std::index_sequence<k...> /*pairs*/) {
+    constexpr std::size_t pairs = sizeof...(k);
+    Floats sums = tap(taps, pairs, x) * all<Floats>(weights.near[pairs]);
+    ((sums = sums + (tap(taps, k, x) + tap(taps, 2 * pairs - k, x)) * all<Floats>(weights.near[k])),
+     ...);
     return sums;
 }
 
@@ -67,35 +74,59 @@ void filterExactly(const float* const* taps, const TapWeights& weights, std::siz
     return !isAny(isDoubtful);
 }
 
-[[gnu::always_inline]] inline void filterBlock(const float* const* taps, const TapWeights& weights,
-                                               std::size_t x, std::uint8_t* out) {
-    if (weights.hasNear) {
-        const Floats sums = nearSums(taps, weights, x) + all<Floats>(0.5F);
+struct ExactBlocks {
+    static void filter(const float* const* taps, const TapWeights& weights, std::size_t x,
+                       std::uint8_t* out) {
+        filterExactly(taps, weights, x, out);
+    }
+};
+
+template <std::size_t pairs>
+struct NearBlocks {
+    [[gnu::always_inline]] static void filter(const float* const* taps, const TapWeights& weights,
+                                              std::size_t x, std::uint8_t* out) {
+        const Floats sums =
+            nearSums(taps, weights, x, std::make_index_sequence<pairs>()) + all<Floats>(0.5F);
         const Integers wholes = lanes::integersOf(sums);
         if (areCertain(sums, wholes)) {
-            return lanes::storeLimited(wholes, out);
+            lanes::storeLimited(wholes, out);
+        } else {
+            filterExactly(taps, weights, x, out);
         }
     }
-    filterExactly(taps, weights, x, out);
-}
+};
 
-void filter(const float* const* taps, const TapWeights& weights, std::size_t width,
-            unsigned char* out) {
+template <typename Blocks>
+void filterRow(const float* const* taps, const TapWeights& weights, std::size_t width,
+               unsigned char* out) {
     std::size_t x = 0;
     for (; x + rowBlock <= width; x += rowBlock) {
-        filterBlock(taps, weights, x, out + x);
+        Blocks::filter(taps, weights, x, out + x);
     }
     if (x < width) {
         std::array<std::uint8_t, rowBlock> rest;
-        filterBlock(taps, weights, x, rest.data());
+        Blocks::filter(taps, weights, x, rest.data());
         std::copy_n(rest.data(), width - x, out + x);
     }
 }
 
+template <std::size_t... pairs>
+constexpr auto nearFilters(std::index_sequence<pairs...> /*all*/) {
+    return std::array{filterRow<NearBlocks<pairs>>...};
+}
+
+void filter(const float* const* taps, const TapWeights& weights, std::size_t width,
+            unsigned char* out) {
+    constexpr auto byPairs =
+        nearFilters(std::make_index_sequence<TapWeights::mostNearTaps / 2 + 1>());
+    const auto row = weights.hasNear ? byPairs[weights.count / 2] : filterRow<ExactBlocks>;
+    row(taps, weights, width, out);
+}
+
 [[gnu::always_inline]] inline void addWeightedBlock(const std::uint8_t* a, const std::uint8_t* b,
                                                     float weight, std::uint8_t* out) {
-    const Floats gained = lanes::loadFloats(a) * all<Floats>(1.0F + weight);
-    const Floats lost = lanes::loadFloats(b) * all<Floats>(-weight);
+    const Floats gained = asFloats(a) * all<Floats>(1.0F + weight);
+    const Floats lost = asFloats(b) * all<Floats>(-weight);
     const Floats sums = withHalf(gained + lost + all<Floats>(0.0F));
     const Integers rounded = truncated(sums);
     lanes::storeLimited(rounded, out);
@@ -120,7 +151,7 @@ void addWeighted(const unsigned char* a, const unsigned char* b, float weight, s
 void widen(const unsigned char* bytes, std::size_t width, float* floats) {
     std::size_t x = 0;
     for (; x + rowBlock <= width; x += rowBlock) {
-        lanes::store(lanes::loadFloats(bytes + x), floats + x);
+        lanes::store(asFloats(bytes + x), floats + x);
     }
     for (; x < width; ++x) {
         floats[x] = static_cast<float>(bytes[x]);

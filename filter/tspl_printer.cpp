@@ -5,14 +5,17 @@
 
 #include "filter/cancellation.h"
 #include "filter/tspl_commands.h"
+#include "lanes/byte_marks.h"
 #include "lanes/byte_words.h"
 
 namespace {
 
+constexpr std::size_t blockBytes = sizeof(lanes::Bytes);
+
 // A pixel of 0 is a set bit, and so is every bit behind the last pixel.
 void sendPackedRow(KestoPrinter& printer, const unsigned char* pixels, std::size_t width) {
-    for (; width >= ByteBlock::bytes; width -= ByteBlock::bytes, pixels += ByteBlock::bytes) {
-        const unsigned dots = packedMarks(isZero(loadBlock(pixels)));
+    for (; width >= blockBytes; width -= blockBytes, pixels += blockBytes) {
+        const unsigned dots = lanes::packedMarks(lanes::isZero(lanes::loadBytes(pixels)));
         printer.printByte(static_cast<unsigned char>(dots));
         printer.printByte(static_cast<unsigned char>(dots >> 8));
     }

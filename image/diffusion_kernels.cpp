@@ -43,6 +43,8 @@ public:
     /// What a level is kept as: so high that its upper limit is the largest 16-bit number.
     static constexpr std::int16_t raised = 0x7F00;
 
+    static State start() { return {}; }
+
     [[gnu::always_inline]] static Numbers entering(const Numbers& level) {
         return level + all<Numbers>(raised);
     }

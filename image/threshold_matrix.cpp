@@ -5,9 +5,12 @@
 #include <cstdint>
 
 #include "image/raster_image.h"
+#include "lanes/byte_marks.h"
 #include "lanes/byte_words.h"
 
 namespace {
+
+constexpr std::size_t blockBytes = sizeof(lanes::Bytes);
 
 /// The lowest white level of every pixel, by row y mod 4 and column x mod 4.
 using LowestWhite = std::array<std::array<std::uint8_t, 4>, 4>;
@@ -66,9 +69,10 @@ void thresholdRow(const std::uint8_t* levels, std::size_t width,
                   const std::array<std::uint8_t, 4>& rowLimits, std::uint8_t* dots) {
     const ByteWord four = loadPartOfWord(rowLimits.data(), 4);
     const ByteWord limits = four << 32 | four;
-    const ByteBlock blockLimits = repeatedWord(limits);
-    for (; width >= ByteBlock::bytes; width -= ByteBlock::bytes, levels += ByteBlock::bytes) {
-        const unsigned marks = packedMarks(isAtLeast(loadBlock(levels), blockLimits));
+    const lanes::Bytes blockLimits = lanes::repeated(limits);
+    for (; width >= blockBytes; width -= blockBytes, levels += blockBytes) {
+        const unsigned marks =
+            lanes::packedMarks(lanes::isAtLeast(lanes::loadBytes(levels), blockLimits));
         *dots++ = static_cast<std::uint8_t>(marks);
         *dots++ = static_cast<std::uint8_t>(marks >> 8);
     }

@@ -24,6 +24,12 @@ using Bytes = BytesOf<ThisLevel>;
     return reinterpret_cast<Bytes>(Words{eight, 0});
 }
 
+[[gnu::always_inline]] inline Bytes loadBytes(const std::uint8_t* from) {
+    Bytes bytes;
+    std::memcpy(&bytes, from, sizeof bytes);
+    return bytes;
+}
+
 /// Groups of so many bytes, of one register and of the other in turns, from the group `first` on.
 template <int size, int first, int... i>
 [[gnu::always_inline]] inline Bytes interleavedBy(Bytes a, Bytes b,

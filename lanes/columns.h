@@ -45,7 +45,7 @@ inline constexpr int columnsAtOnce = 8;
 template <typename Some>
 [[gnu::always_inline]] inline Some widened(Bytes bytes) {
     if constexpr (std::is_same_v<typename Some::Number, float>) {
-        return asFloats(asIntegers(bytes));
+        return asFloats<Some::count>(bytes);
     } else {
         return asWords<Some::count>(bytes);
     }

@@ -42,16 +42,21 @@ template <int count>
         [](auto x) { return __builtin_convertvector(x, typename Some::Register); }, numbers);
 }
 
-/// Sixteen bytes in memory as floats.
-[[gnu::always_inline]] inline Lanes<float, 16> loadFloats(const std::uint8_t* bytes) {
-    const Lanes<float, 8> first = asFloats(asIntegers(loadEight(bytes)));
-    const Lanes<float, 8> last = asFloats(asIntegers(loadEight(bytes + 8)));
-    Lanes<float, 16> result;
-    for (int i = 0; i < first.registers; ++i) {
-        result.part[i] = first.part[i];
-        result.part[first.registers + i] = last.part[i];
+/// The first eight bytes as floats, or all sixteen.
+template <int count>
+[[gnu::always_inline]] inline Lanes<float, count> asFloats(Bytes bytes) {
+    const Lanes<float, 8> first = asFloats(asIntegers(bytes));
+    if constexpr (count == 8) {
+        return first;
+    } else {
+        const Lanes<float, 8> last = asFloats(asIntegers(lastInterleaved<8>(bytes, bytes)));
+        Lanes<float, count> result;
+        for (int i = 0; i < first.registers; ++i) {
+            result.part[i] = first.part[i];
+            result.part[first.registers + i] = last.part[i];
+        }
+        return result;
     }
-    return result;
 }
 
 /// Floats in memory as doubles.

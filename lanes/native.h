@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
+#include "lanes/byte_words.h"
 #include "lanes/bytes.h"
 #include "lanes/lanes.h"
 
@@ -128,6 +130,22 @@ using IntegerRegister = EightIntegers::Register;
 }
 
 #endif
+
+/// The marks of the first eight of sixteen pixels in the lower byte, those of the others in the
+/// upper one; in both the first pixel's in the highest bit.
+[[gnu::always_inline]] inline unsigned packedMarks(Bytes marks) {
+#if !defined(LANES_PLAIN) && defined(__SSE2__)
+    const __m128i places = _mm_set1_epi64x(0x0102040810204080);
+    const __m128i sums =
+        _mm_sad_epu8(_mm_and_si128(reinterpret_cast<__m128i>(marks), places), _mm_setzero_si128());
+    return static_cast<unsigned>(_mm_cvtsi128_si32(sums) | _mm_extract_epi16(sums, 4) << 8);
+#else
+    std::uint8_t bytes[sizeof marks];
+    std::memcpy(bytes, &marks, sizeof marks);
+    return packedTopBits(loadWord(bytes)) |
+           static_cast<unsigned>(packedTopBits(loadWord(bytes + 8))) << 8;
+#endif
+}
 
 #if defined(LANES_PLAIN) || !defined(__AVX2__)
 

@@ -132,7 +132,7 @@ public:
         const Memory memory = {levels_.row(0),  levels_.stride() - skew,
                                carried_.row(0), carried_.stride(),
                                dots_.row(0),    dots_.stride()};
-        State state{};
+        State state = arithmetic_.start();
         for (Index block = -1; block * columnsAtOnce < end; ++block) {
             const Index time = block * columnsAtOnce;
             if (innerRows && time - lastSkew >= Arithmetic::border &&
@@ -185,8 +185,8 @@ private:
     template <bool inner>
     [[gnu::always_inline]] void diffuseColumn(State& state, const Memory& memory, Index time,
                                               const Numbers& level) {
-        moveWindows(state, memory, time, arithmetic_.entering(level));
-        arithmetic_.template decide<inner>(
+        moveWindows(state, memory, time, Arithmetic::entering(level));
+        Arithmetic::template decide<inner>(
             state, level, time, [this, time](int border) { return within(time, border); });
     }
 
