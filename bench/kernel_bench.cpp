@@ -19,6 +19,7 @@
 #include "filter/tspl_printer.h"
 #include "image/raster_image.h"
 #include "intake/content/content_separation.h"
+#include "lanes/choice.h"
 #include "tests/reference/dither.h"
 #include "tests/reference/stencil.h"
 #include "tests/reference/stencil_blur.h"
@@ -256,3 +257,10 @@ void ReferenceStencilDiffusion(benchmark::State& state) {
 BENCHMARK(ReferenceStencilDiffusion)->Unit(benchmark::kMillisecond);
 
 }  // namespace
+
+int main(int argc, char* argv[]) {
+    benchmark::AddCustomContext("kernels for", lanes::levelName());
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

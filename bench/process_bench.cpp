@@ -13,6 +13,7 @@
 
 #include "bench/raster_file.h"
 #include "bench/timed_run.h"
+#include "lanes/choice.h"
 
 namespace {
 
@@ -195,6 +196,7 @@ int main(int argc, char* argv[]) {
             stderr);
         return EXIT_FAILURE;
     }
+    std::printf("kernels for: %s\n", lanes::levelName());
     const Programs programs = {argv[1], argv[2], argv[3], argv[4], argv[5], argv[6]};
     for (const Block& block : blocksOf(argc > 7 && std::string(argv[7]) == "--quick")) {
         run(programs, block);

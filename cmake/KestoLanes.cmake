@@ -8,11 +8,11 @@ endif()
 # Plain is the baseline without the processor's own operations.
 set(kesto_options_of_Plain -DLANES_PLAIN)
 set(kesto_options_of_Baseline -DLANES_LEVEL=Baseline)
-set(kesto_options_of_Avx2 -mavx2 -DLANES_LEVEL=Avx2)
+set(kesto_options_of_Avx2 -mavx2 -mfma -DLANES_LEVEL=Avx2)
 
 # Whether this machine can run the tests of that level.
 file(READ /proc/cpuinfo processor LIMIT 8192)
-string(REGEX MATCH " avx2 " KESTO_HAS_AVX2 "${processor}")
+string(REGEX MATCH " fma .* avx2 " KESTO_HAS_AVX2 "${processor}")
 
 # kesto_kernels(LIBRARY FILE...): adds files of kernels to a library, compiled once for every level
 # that the program can take

@@ -19,7 +19,7 @@ bool KestoPrinter::printStr(const char* s) {
     return false;
 }
 
-// The dots of a page come this way. With no threads there is nothing to lock a stream against.
+// With no threads there is nothing to lock a stream against.
 bool KestoPrinter::printByte(unsigned char c) {
     for (std::FILE* stream : outputStreams_) {
         putc_unlocked(c, stream);

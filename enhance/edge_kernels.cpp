@@ -109,7 +109,7 @@ private:
 class LevelBands : public EdgeBands {
 public:
     LevelBands(int width, int height, float threshold)
-        : width_(width), height_(height), wavefront_(width, height, {width, threshold}) {}
+        : width_(width), height_(height), wavefront_(width, height, width, threshold) {}
 
     void diffuse(const EdgeBand& band) override {
         const int rows = std::min(EdgeDiffusion::rows, height_ - top_);

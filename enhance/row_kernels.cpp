@@ -61,7 +61,8 @@ template <std::size_t... k>
                                               std::size_t x, std::index_sequence<k...> /*pairs*/) {
     constexpr std::size_t pairs = sizeof...(k);
     Floats sums = tap(taps, pairs, x) * all<Floats>(weights.near[pairs]);
-    ((sums = sums + (tap(taps, k, x) + tap(taps, 2 * pairs - k, x)) * all<Floats>(weights.near[k])),
+    ((sums = nearlyAdded(tap(taps, k, x) + tap(taps, 2 * pairs - k, x),
+                         all<Floats>(weights.near[k]), sums)),
      ...);
     return sums;
 }

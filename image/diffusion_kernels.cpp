@@ -122,7 +122,7 @@ template <int divisor, const auto& cells>
 void diffuse(const ByteRows<const std::uint8_t>& levels, const ByteRows<std::uint8_t>& dots) {
     using Diffusion = LevelDiffusion<divisor, cells>;
     using Wavefront = lanes::Wavefront<Diffusion>;
-    Wavefront wavefront(levels.width, levels.height, Diffusion());
+    Wavefront wavefront(levels.width, levels.height);
     for (int row = 0; row < std::min<std::ptrdiff_t>(Wavefront::depth, levels.height); ++row) {
         raise(levels.row(row), levels.width, Diffusion::raised, wavefront.carried(row));
     }

@@ -4,7 +4,7 @@ namespace lanes {
 
 bool hasAvx2() {
 #ifdef LANES_WITH_AVX2
-    return __builtin_cpu_supports("avx2") != 0;
+    return __builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("fma") != 0;
 #else
     return false;
 #endif

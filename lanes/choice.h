@@ -4,7 +4,7 @@
 
 namespace lanes {
 
-/// Whether kernels for AVX2 are built and this processor can run them.
+/// Whether kernels for AVX2 and FMA are built and this processor can run them.
 bool hasAvx2();
 
 /// The name of the level that runs here.

@@ -18,7 +18,7 @@ struct Baseline {
     static constexpr const char* name = "baseline";
 };
 
-/// x86-64 with AVX2, a part of x86-64-v3.
+/// x86-64 with AVX2 and FMA, parts of x86-64-v3.
 struct Avx2 {
     static constexpr std::size_t registerBytes = 32;
     static constexpr const char* name = "AVX2";

@@ -25,6 +25,7 @@ namespace lanes {
 
 using EightIntegers = Lanes<std::int32_t, 8>;
 using SixteenIntegers = Lanes<std::int32_t, 16>;
+using SixteenFloats = Lanes<float, 16>;
 
 template <std::size_t bytes>
 using Words [[gnu::vector_size(bytes)]] = std::int16_t;
@@ -33,6 +34,15 @@ using WordRegister = Words<ThisLevel::registerBytes>;
 using IntegerRegister = EightIntegers::Register;
 
 #if !defined(LANES_PLAIN) && defined(__AVX2__)
+
+using FloatRegister = SixteenFloats::Register;
+
+/// a × b + c, rounded once or twice: only for what is worked out nearly.
+[[gnu::always_inline]] inline FloatRegister nearlyAdded(FloatRegister a, FloatRegister b,
+                                                        FloatRegister c) {
+    return reinterpret_cast<FloatRegister>(_mm256_fmadd_ps(
+        reinterpret_cast<__m256>(a), reinterpret_cast<__m256>(b), reinterpret_cast<__m256>(c)));
+}
 
 [[gnu::always_inline]] inline WordRegister saturatedSum(WordRegister a, WordRegister b) {
     return reinterpret_cast<WordRegister>(
@@ -149,6 +159,12 @@ using IntegerRegister = EightIntegers::Register;
 
 #if defined(LANES_PLAIN) || !defined(__AVX2__)
 
+[[gnu::always_inline]] inline SixteenFloats::Register nearlyAdded(SixteenFloats::Register a,
+                                                                  SixteenFloats::Register b,
+                                                                  SixteenFloats::Register c) {
+    return a * b + c;
+}
+
 /// The first eight bytes as numbers of four bytes each.
 [[gnu::always_inline]] inline EightIntegers asIntegers(Bytes bytes) {
     const Bytes words = firstWidened<1>(bytes);
@@ -157,6 +173,14 @@ using IntegerRegister = EightIntegers::Register;
 }
 
 #endif
+
+template <int count>
+[[gnu::always_inline]] inline Lanes<float, count> nearlyAdded(const Lanes<float, count>& a,
+                                                              const Lanes<float, count>& b,
+                                                              const Lanes<float, count>& c) {
+    return registerwise<Lanes<float, count>>(
+        [](auto x, auto y, auto z) { return nearlyAdded(x, y, z); }, a, b, c);
+}
 
 /// Whether a mask is set anywhere.
 template <int count>

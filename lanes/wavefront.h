@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <utility>
-#include <vector>
 
 #include "lanes/columns.h"
 #include "lanes/lanes.h"
@@ -34,21 +33,24 @@ struct Reach {
 /// A row for every lane and some columns more on both sides, so that nothing has to be asked where
 /// the page begins and ends: what lies outside is taken and written like the rest, and means
 /// nothing.
-template <typename Number>
+template <typename Number, typename Level = ThisLevel>
 class WideRows {
 public:
     WideRows(std::ptrdiff_t rows, std::ptrdiff_t width, std::ptrdiff_t margin)
         : margin_(margin),
           stride_(width + 2 * margin),
-          numbers_(static_cast<std::size_t>(rows * stride_)) {}
+          numbers_(new Number[static_cast<std::size_t>(rows * stride_)]()) {}
+    ~WideRows() { delete[] numbers_; }
+    WideRows(const WideRows&) = delete;
+    WideRows& operator=(const WideRows&) = delete;
 
     std::ptrdiff_t stride() const { return stride_; }
-    Number* row(std::ptrdiff_t i) { return numbers_.data() + i * stride_ + margin_; }
+    Number* row(std::ptrdiff_t i) { return numbers_ + i * stride_ + margin_; }
 
 private:
     std::ptrdiff_t margin_;
     std::ptrdiff_t stride_;
-    std::vector<Number> numbers_;
+    Number* numbers_;  ///< owned; what a class of the library leaves to the linker knows no levels
 };
 
 /// What moves along with the rows: the numbers in columns 0 to `ahead` of a row, and around it in
@@ -104,8 +106,10 @@ public:
     /// below on the left just when it enters on the right of the next lane's window.
     static constexpr int skew = reach.behind + 1 + reach.ahead;
 
-    Wavefront(Index width, Index height, Arithmetic arithmetic)
-        : arithmetic_(std::move(arithmetic)),
+    /// What else is given goes to the arithmetic.
+    template <typename... Arguments>
+    Wavefront(Index width, Index height, Arguments... arguments)
+        : arithmetic_(arguments...),
           width_(width),
           height_(height),
           levels_(rows, width, margin),
