@@ -86,9 +86,18 @@ function(kesto_discover_tests name)
         PROPERTIES LABELS ${tests_LABEL} TIMEOUT 300 ${tests_PROPERTIES})
 endfunction()
 
+# kesto_emulate_level(PROGRAM LEVEL): runs the tests of a program by an emulator where this machine has no
+# processor of the level
+function(kesto_emulate_level program level)
+    if(level STREQUAL Avx2 AND NOT KESTO_HAS_AVX2)
+        find_program(KESTO_QEMU_X86_64 qemu-x86_64 REQUIRED)
+        set_target_properties(${program} PROPERTIES
+            CROSSCOMPILING_EMULATOR "${KESTO_QEMU_X86_64};-cpu;max")
+    endif()
+endfunction()
+
 # kesto_test_kernels(NAME LIBRARY OBJECTS [OPTION...]): tests that compare the kernels of a library with the
-# reference, once for every level of the processor. One with AVX2 is emulated where there is none. OPTIONs
-# are those of kesto_discover_tests.
+# reference, once for every level of the processor. OPTIONs are those of kesto_discover_tests.
 function(kesto_test_kernels name library objects)
     foreach(level IN LISTS kesto_levels)
         string(TOLOWER ${name}_${level} program)
@@ -96,11 +105,7 @@ function(kesto_test_kernels name library objects)
         kesto_test_program(${program}
             LIBRARIES ${program}_library kesto_reference
             SOURCES $<TARGET_OBJECTS:${objects}>)
-        if(level STREQUAL Avx2 AND NOT KESTO_HAS_AVX2)
-            find_program(KESTO_QEMU_X86_64 qemu-x86_64 REQUIRED)
-            set_target_properties(${program} PROPERTIES
-                CROSSCOMPILING_EMULATOR "${KESTO_QEMU_X86_64};-cpu;max")
-        endif()
+        kesto_emulate_level(${program} ${level})
         kesto_discover_tests(${program} LABEL unit TEST_PREFIX ${level}. ${ARGN})
     endforeach()
 endfunction()

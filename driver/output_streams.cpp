@@ -19,14 +19,6 @@ bool KestoPrinter::printStr(const char* s) {
     return false;
 }
 
-// With no threads there is nothing to lock a stream against.
-bool KestoPrinter::printByte(unsigned char c) {
-    for (std::FILE* stream : outputStreams_) {
-        putc_unlocked(c, stream);
-    }
-    return false;
-}
-
 int KestoPrinter::printFormat(const char* format, ...) {
     int written = 0;
     va_list args;

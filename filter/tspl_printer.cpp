@@ -1,7 +1,6 @@
 #include "filter/tspl_printer.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
 
 #include "filter/cancellation.h"
@@ -13,30 +12,16 @@ namespace {
 
 constexpr std::size_t blockBytes = sizeof(lanes::Bytes);
 
-// A pixel of 0 is a set bit, and so is every bit behind the last pixel. Returns the end of the
-// bytes.
-unsigned char* packRow(const unsigned char* pixels, std::size_t width, unsigned char* bytes) {
+// A pixel of 0 is a set bit, and so is every bit behind the last pixel.
+void sendPackedRow(KestoPrinter& printer, const unsigned char* pixels, std::size_t width) {
     for (; width >= blockBytes; width -= blockBytes, pixels += blockBytes) {
         const unsigned dots = lanes::packedMarks(lanes::isZero(lanes::loadBytes(pixels)));
-        *bytes++ = static_cast<unsigned char>(dots);
-        *bytes++ = static_cast<unsigned char>(dots >> 8);
+        printer.printByte(static_cast<unsigned char>(dots));
+        printer.printByte(static_cast<unsigned char>(dots >> 8));
     }
     while (width != 0) {
         const std::size_t part = std::min<std::size_t>(width, 8);
-        *bytes++ = packedTopBits(isZero(loadPartOfWord(pixels, part)));
-        pixels += part;
-        width -= part;
-    }
-    return bytes;
-}
-
-// In pieces, which need no memory that there might be none of.
-void sendPackedRow(KestoPrinter& printer, const unsigned char* pixels, std::size_t width) {
-    std::array<unsigned char, 512> bytes;
-    while (width != 0) {
-        const std::size_t part = std::min(width, bytes.size() * 8);
-        const unsigned char* end = packRow(pixels, part, bytes.data());
-        printer.printBytes(bytes.data(), static_cast<std::size_t>(end - bytes.data()));
+        printer.printByte(packedTopBits(isZero(loadPartOfWord(pixels, part))));
         pixels += part;
         width -= part;
     }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <numeric>
 
 #include "tests/reference/stencil_blur.h"
@@ -203,6 +204,56 @@ TEST(Convolve1D, IsThatOfTheReferenceAtEveryWidth) {
                       reference::filteredRows(columns, 13, page.levels, weights));
             EXPECT_EQ(convolved(width, 13, page.levels, weights, false),
                       reference::filteredColumns(columns, 13, page.levels, weights));
+        }
+    }
+}
+
+// Wide enough for every way in which pixels are worked on together.
+TEST(Convolve1D, IsThatOfTheReferenceWithUnusualKernels) {
+    const GreyPage page = stencil_pages::noisePage(61, 37, 5);
+    const Weights kernels[] = {
+        {0.1, 0.2, 0.7},              // not symmetric
+        {0.3, 0.3, 0.3, 0.05, 0.05},  //
+        {-0.5, 2, -0.5},              // of both signs
+        {-1, -1, -1},                 //
+        {-0.3, -0.9, -0.1},           //
+        {1, 1, 1},                    // beyond a byte
+        {0, 4e7, 0},                  // beyond 32 bits
+        {-4e7, 0, 0},                 //
+        {1e300, 1e300, 1e300},        // beyond single and double precision
+        {1e308, 1e308, 1e308},        //
+        {1e308, -1e308, 1e308},       //
+        {1e17, 1, -1e17},             // other sums in another order
+        {1e17, -1e17, 1},             //
+        {1, 1e17, -1e17},             //
+        {0.25, 0.5, 0.25},            // halves
+    };
+    for (const Weights& weights : kernels) {
+        EXPECT_EQ(convolved(61, 37, page.levels, weights, true),
+                  reference::filteredRows(61, 37, page.levels, weights))
+            << testing::PrintToString(weights);
+        EXPECT_EQ(convolved(61, 37, page.levels, weights, false),
+                  reference::filteredColumns(61, 37, page.levels, weights))
+            << testing::PrintToString(weights);
+    }
+}
+
+// Sums of few low levels, a hair's breadth below and above halves.
+TEST(Convolve1D, RoundsAsDemandedHoweverNearASumIsToAHalf) {
+    GreyPage page = stencil_pages::noisePage(64, 8, 11);
+    for (std::uint8_t& level : page.levels) {
+        level = static_cast<std::uint8_t>(level % 4 + (level / 4 % 2) * 252);
+    }
+    for (int exponent = 6; exponent <= 54; ++exponent) {
+        for (const double sign : {-1.0, 1.0}) {
+            const double side = 0.25 + sign * std::ldexp(1.0, -exponent);
+            const Weights weights = {side / 2, side / 2, 1 - 2 * side, side / 2, side / 2};
+            EXPECT_EQ(convolved(64, 8, page.levels, weights, true),
+                      reference::filteredRows(64, 8, page.levels, weights))
+                << exponent;
+            EXPECT_EQ(convolved(64, 8, page.levels, weights, false),
+                      reference::filteredColumns(64, 8, page.levels, weights))
+                << exponent;
         }
     }
 }

@@ -1,0 +1,65 @@
+// From numbers of one kind to those of another.
+#include "lanes/conversion.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+
+namespace {
+
+using Integers = lanes::Lanes<std::int32_t, 16>;
+using Floats = lanes::Lanes<float, 16>;
+
+// 240 to 255.
+std::array<std::uint8_t, 16> highBytes() {
+    std::array<std::uint8_t, 16> bytes{};
+    std::iota(bytes.begin(), bytes.end(), std::uint8_t{240});
+    return bytes;
+}
+
+TEST(Conversion, WidensBytesInTheirOrder) {
+    const auto bytes = highBytes();
+    std::array<float, 16> floats{};
+    lanes::store(lanes::asFloats<16>(lanes::loadBytes(bytes.data())), floats.data());
+    EXPECT_TRUE(std::equal(floats.begin(), floats.end(), bytes.begin()));
+    std::array<std::int16_t, 16> words{};
+    lanes::store(lanes::asWords<16>(lanes::loadBytes(bytes.data())), words.data());
+    EXPECT_TRUE(std::equal(words.begin(), words.end(), bytes.begin()));
+}
+
+TEST(Conversion, LimitsNumbersToBytes) {
+    const std::array<std::int32_t, 16> numbers = {
+        0, 1, 254, 255, 256, -1, 32767, 32768, 65535, -32769, 100, -255, 7, 8, 9, 2147483647};
+    std::array<std::uint8_t, 16> bytes{};
+    lanes::storeLimited(lanes::load<Integers>(numbers.data()), bytes.data());
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        EXPECT_EQ(bytes[i], std::clamp(numbers[i], 0, 255)) << numbers[i];
+    }
+}
+
+TEST(Conversion, CutsFloatsOffTowardsZero) {
+    const std::array<float, 16> floats = {0.0F,   0.5F,  0.99F, 1.0F,  254.99F, 255.5F,
+                                          1e9F,   -0.5F, -1.5F, -2.0F, 100.1F,  128.0F,
+                                          3.999F, 7.0F,  8.5F,  -9.9F};
+    std::array<std::int32_t, 16> integers{};
+    lanes::store(lanes::integersOf(lanes::load<Floats>(floats.data())), integers.data());
+    for (std::size_t i = 0; i < integers.size(); ++i) {
+        EXPECT_EQ(integers[i], static_cast<std::int32_t>(floats[i])) << floats[i];
+    }
+}
+
+TEST(Conversion, RoundsDoublesToFloats) {
+    std::array<float, 16> floats{};
+    std::iota(floats.begin(), floats.end(), 16777200.0F);
+    const auto doubles = lanes::loadDoubles<16>(floats.data());
+    const auto sums = doubles + lanes::all<lanes::Lanes<double, 16>>(0.75);
+    std::array<float, 16> rounded{};
+    lanes::store(lanes::asFloats(sums), rounded.data());
+    for (std::size_t i = 0; i < rounded.size(); ++i) {
+        EXPECT_EQ(rounded[i], static_cast<float>(static_cast<double>(floats[i]) + 0.75)) << i;
+    }
+}
+
+}  // namespace
