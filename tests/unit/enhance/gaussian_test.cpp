@@ -238,6 +238,21 @@ TEST(Convolve1D, IsThatOfTheReferenceWithUnusualKernels) {
     }
 }
 
+TEST(Convolve1D, KeepsTheLowByteOfSumsOfBothSignsInARow) {
+    Bytes levels;
+    Bytes expected;
+    for (int x = 0; x < 64; ++x) {
+        levels.push_back(x % 2 == 0 ? 200 : 250);
+        // 2 x 200 - 250 and 2 x 250 - 200 - 256; at the ends 1.5 x 200 - 125 and 1.5 x 250 - 100 -
+        // 256.
+        expected.push_back(x % 2 == 0 ? 150 : 44);
+    }
+    expected.front() = 175;
+    expected.back() = 19;
+    EXPECT_EQ(convolved(64, 1, levels, {-0.5, 2, -0.5}, true), expected);
+    EXPECT_EQ(convolved(1, 64, levels, {-0.5, 2, -0.5}, false), expected);
+}
+
 // Sums of few low levels, a hair's breadth below and above halves.
 TEST(Convolve1D, RoundsAsDemandedHoweverNearASumIsToAHalf) {
     GreyPage page = stencil_pages::noisePage(64, 8, 11);
