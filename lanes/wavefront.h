@@ -173,7 +173,7 @@ private:
                               std::make_index_sequence<columnsAtOnce>());
         std::array<typename Mask::Number, std::size_t{rows}> dots;
         store(state.dots, dots.data());
-        for (int lane = 0; lane < rows; ++lane) {
+        for (Index lane = 0; lane < rows; ++lane) {
             Arithmetic::store(dots[static_cast<std::size_t>(lane)], time - lane * skew,
                               memory.dots + lane * memory.dotStride);
         }
