@@ -11,8 +11,13 @@ set(kesto_options_of_Baseline -DLANES_LEVEL=Baseline)
 set(kesto_options_of_Avx2 -mavx2 -mfma -DLANES_LEVEL=Avx2)
 
 # Whether this machine can run the tests of that level.
-file(READ /proc/cpuinfo processor LIMIT 8192)
-string(REGEX MATCH " fma .* avx2 " KESTO_HAS_AVX2 "${processor}")
+set(KESTO_HAS_AVX2 FALSE)
+if(EXISTS /proc/cpuinfo)
+    file(READ /proc/cpuinfo processor LIMIT 8192)
+    if(processor MATCHES " fma " AND processor MATCHES " avx2 ")
+        set(KESTO_HAS_AVX2 TRUE)
+    endif()
+endif()
 
 # kesto_kernels(LIBRARY FILE...): adds files of kernels to a library, compiled once for every level
 # that the program can take
@@ -22,7 +27,8 @@ function(kesto_kernels library)
     if(Avx2 IN_LIST kesto_levels)
         add_library(${library}_avx2 OBJECT ${ARGN})
         target_link_libraries(${library}_avx2 PRIVATE kesto_compile)
-        target_compile_options(${library}_avx2 PRIVATE ${kesto_options_of_Avx2})
+        # Without an optimiser functions are not inlined that others have by the same names.
+        target_compile_options(${library}_avx2 PRIVATE ${kesto_options_of_Avx2} $<$<CONFIG:Debug>:-O2>)
         target_sources(${library} PRIVATE $<TARGET_OBJECTS:${library}_avx2>)
     endif()
 endfunction()

@@ -20,7 +20,7 @@ QMImage edf_cus(const QMImage& src, int threshold);
 /// order, and with it every rounding, is that of going through the page pixel by pixel.
 class EdgeDiffusion {
 public:
-    static constexpr int rows = 8;  ///< of a band
+    static constexpr int rows = EdgeBands::rows;  ///< of a band
 
     EdgeDiffusion(int width, int height, int threshold);
 

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <utility>
 
-#include "enhance/edge_diffusion.h"
 #include "lanes/byte_words.h"
 #include "lanes/wavefront.h"
 
@@ -19,7 +18,7 @@ constexpr float blackNeighbourRelief = 0.1427F;
 /// Errors in single precision, each step rounded.
 class FloatDiffusion {
 public:
-    using Numbers = Lanes<float, EdgeDiffusion::rows>;
+    using Numbers = Lanes<float, EdgeBands::rows>;
     using Mask = lanes::MaskOf<Numbers>;
     static constexpr lanes::Reach reach = {2, 2, 1, 1};
     static constexpr bool levelsBelow = false;
@@ -27,8 +26,8 @@ public:
     static constexpr int columnsPerByte = 1;
 
 private:
-    static constexpr int skew = reach.behind + 1 + reach.ahead;
-    static constexpr int lastSkew = (EdgeDiffusion::rows - 1) * skew;
+    static constexpr int skew = lanes::skewOf(reach);
+    static constexpr int lastSkew = (EdgeBands::rows - 1) * skew;
 
 public:
     struct State : lanes::Windows<Numbers, reach> {
@@ -39,8 +38,7 @@ public:
     };
 
     FloatDiffusion(std::ptrdiff_t width, float threshold)
-        : threshold_(threshold),
-          blackAbove_(1, width, lastSkew + skew + 3 * lanes::columnsAtOnce) {}
+        : threshold_(threshold), blackAbove_(1, width, lanes::marginOf(reach, EdgeBands::rows)) {}
 
     State start() {
         State state{};
@@ -112,15 +110,15 @@ public:
         : width_(width), height_(height), wavefront_(width, height, width, threshold) {}
 
     void diffuse(const EdgeBand& band) override {
-        const int rows = std::min(EdgeDiffusion::rows, height_ - top_);
-        for (int lane = 0; lane < rows; ++lane) {
+        const int count = std::min(rows, height_ - top_);
+        for (int lane = 0; lane < count; ++lane) {
             std::copy_n(band.levels + lane * band.levelStride, width_, wavefront_.levels(lane));
         }
         wavefront_.diffuseBand(top_);
-        for (int lane = 0; lane < rows; ++lane) {
+        for (int lane = 0; lane < count; ++lane) {
             std::copy_n(wavefront_.dots(lane), width_, band.dots + lane * band.dotStride);
         }
-        top_ += rows;
+        top_ += count;
     }
 
 private:

@@ -16,6 +16,8 @@ struct EdgeBand {
 /// The bands of a page, from the first one to the last.
 class EdgeBands {
 public:
+    static constexpr int rows = 8;  ///< of a band
+
     EdgeBands() = default;
     EdgeBands(const EdgeBands&) = delete;
     EdgeBands& operator=(const EdgeBands&) = delete;

@@ -7,7 +7,8 @@
 #include "enhance/row_kernels.h"
 #include "lanes/choice.h"
 
-FilterTaps::FilterTaps(int ksize) : half(ksize / 2), last(std::min(half, ksize - 1 - half)) {}
+FilterTaps::FilterTaps(int ksize)
+    : half(std::max(ksize, 0) / 2), last(std::min(half, std::max(ksize, 0) - 1 - half)) {}
 
 AlongRows::AlongRows(const double* kernel, int ksize, int width)
     : taps_(ksize),

@@ -14,7 +14,7 @@
 struct FilterTaps {
     explicit FilterTaps(int ksize);
 
-    /// 0 for a size of 0, where `last` is -1.
+    /// 0 for a size of 0 or less, where `last` is -1.
     std::size_t count() const {
         return static_cast<std::size_t>(half) + 1 + static_cast<std::size_t>(last);
     }

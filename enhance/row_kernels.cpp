@@ -26,8 +26,7 @@ using Doubles = Lanes<double, rowBlock>;
 [[gnu::always_inline]] inline Integers truncated(const Floats& numbers) {
     const Floats limit = all<Floats>(2147483648.0F);
     const Floats inside = numbers & (limit > numbers) & (numbers > all<Floats>(-2147483648.0F));
-    return lanes::registerwise<Integers>(
-        [](auto x) { return __builtin_convertvector(x, Integers::Register); }, inside);
+    return lanes::integersOf(inside);
 }
 
 // A half towards the sign, as my_round adds it.

@@ -46,8 +46,8 @@ void keepFreedMemory() {
 #endif
 }
 
-// Nothing of the filter throws but an allocation of the C++ library, and nothing catches it.
-// Buffers hold whole commands then: halftoning, which allocates, is over when a bitmap begins.
+// Nothing of the filter throws but an allocation of the C++ library, and only error diffusion's is
+// caught. Buffers hold whole commands then: halftoning, which allocates, is over when a bitmap begins.
 [[noreturn]] void endWithoutMemory() {
     kestoLogCommon(kestoLogCritical, "Out of memory, the job ends");
     std::fflush(nullptr);

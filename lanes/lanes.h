@@ -43,6 +43,22 @@ using IntegerOf = std::conditional_t<
 template <typename Some>
 using MaskOf = Lanes<IntegerOf<sizeof(typename Some::Number)>, Some::count>;
 
+template <typename Number>
+using UnsignedOf =
+    typename std::conditional_t<std::is_integral_v<Number>, std::make_unsigned<Number>,
+                                std::type_identity<Number>>::type;
+
+/// Whole numbers without their signs: their sums may go round.
+template <typename Number, typename Register>
+[[gnu::always_inline]] inline auto asBits(Register numbers) {
+    using Bits [[gnu::vector_size(sizeof(Register))]] = UnsignedOf<Number>;
+    return reinterpret_cast<Bits>(numbers);
+}
+template <typename Register, typename Bits>
+[[gnu::always_inline]] inline Register asNumbers(Bits bits) {
+    return reinterpret_cast<Register>(bits);
+}
+
 /// Applies an operation to the registers of `a` and of the others, one after the other.
 template <typename Result, typename Operation, typename... Others>
 [[gnu::always_inline]] inline Result registerwise(Operation operation, const Others&... others) {
@@ -83,13 +99,21 @@ template <typename Number, int count>
 template <typename Number, int count>
 [[gnu::always_inline]] inline Lanes<Number, count> operator+(const Lanes<Number, count>& a,
                                                              const Lanes<Number, count>& b) {
-    return registerwise<Lanes<Number, count>>([](auto x, auto y) { return x + y; }, a, b);
+    return registerwise<Lanes<Number, count>>(
+        [](auto x, auto y) {
+            return asNumbers<decltype(x)>(asBits<Number>(x) + asBits<Number>(y));
+        },
+        a, b);
 }
 
 template <typename Number, int count>
 [[gnu::always_inline]] inline Lanes<Number, count> operator-(const Lanes<Number, count>& a,
                                                              const Lanes<Number, count>& b) {
-    return registerwise<Lanes<Number, count>>([](auto x, auto y) { return x - y; }, a, b);
+    return registerwise<Lanes<Number, count>>(
+        [](auto x, auto y) {
+            return asNumbers<decltype(x)>(asBits<Number>(x) - asBits<Number>(y));
+        },
+        a, b);
 }
 
 template <typename Number, int count>

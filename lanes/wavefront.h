@@ -30,6 +30,18 @@ struct Reach {
     int depth;    ///< rows below
 };
 
+/// Columns that a row lies behind the row above: a number leaves the window over the row below on
+/// the left just when it enters on the right of the next lane's window.
+constexpr int skewOf(Reach reach) {
+    return reach.behind + 1 + reach.ahead;
+}
+
+/// Columns that rows run beyond both ends of the page: the last lane is so far behind, what it
+/// leaves `skewOf` more, and columns come together.
+constexpr int marginOf(Reach reach, int rows) {
+    return rows * skewOf(reach) + 3 * columnsAtOnce;
+}
+
 /// A row for every lane and some columns more on both sides, so that nothing has to be asked where
 /// the page begins and ends: what lies outside is taken and written like the rest, and means
 /// nothing.
@@ -39,7 +51,8 @@ public:
     WideRows(std::ptrdiff_t rows, std::ptrdiff_t width, std::ptrdiff_t margin)
         : margin_(margin),
           stride_(width + 2 * margin),
-          numbers_(new Number[static_cast<std::size_t>(rows * stride_)]()) {}
+          numbers_(
+              new Number[static_cast<std::size_t>(rows) * static_cast<std::size_t>(stride_)]()) {}
     ~WideRows() { delete[] numbers_; }
     WideRows(const WideRows&) = delete;
     WideRows& operator=(const WideRows&) = delete;
@@ -102,9 +115,7 @@ class Wavefront {
 public:
     static constexpr int rows = Numbers::count;
     static constexpr int depth = reach.depth;
-    /// Columns that a row lies behind the row above: a number leaves the window over the row
-    /// below on the left just when it enters on the right of the next lane's window.
-    static constexpr int skew = reach.behind + 1 + reach.ahead;
+    static constexpr int skew = skewOf(reach);
 
     /// What else is given goes to the arithmetic.
     template <typename... Arguments>
@@ -150,8 +161,7 @@ public:
 
 private:
     static constexpr int lastSkew = (rows - 1) * skew;
-    // Beyond both ends of a row: the last lane is so far behind, and columns come together.
-    static constexpr int margin = lastSkew + reach.behind + reach.ahead + 3 * columnsAtOnce;
+    static constexpr int margin = marginOf(reach, rows);
     static constexpr int place = Arithmetic::levelsBelow ? reach.besides : 0;
 
     struct Memory {

@@ -3,6 +3,7 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace reference {
 
@@ -120,12 +121,12 @@ std::optional<float> power(float x, float y) {
 }
 
 int roundedHalfAway(float x) {
-    if (x >= 0.0F) {
-        const float raised = x + 0.5F;
-        return static_cast<int>(raised);
+    const float moved = x >= 0.0F ? x + 0.5F : x - 0.5F;
+    // What has no place in 32 bits is the smallest number that has.
+    if (std::isnan(moved) || std::fabs(moved) >= 2147483648.0F) {
+        return std::numeric_limits<int>::min();
     }
-    const float lowered = x - 0.5F;
-    return static_cast<int>(lowered);
+    return static_cast<int>(moved);
 }
 
 }  // namespace reference

@@ -181,6 +181,15 @@ TEST(Convolve1D, FiltersOneByteAPixelWhateverTheLayout) {
     EXPECT_EQ(result.color, QM_IMG_RGB);
 }
 
+TEST(Convolve1D, WithASizeBelowZeroIsBlackAsWithNone) {
+    const QMImage image = greyImage(3, 1, {1, 2, 3});
+    for (const int size : {0, -1, -2, -3}) {
+        for (const bool horizontal : {true, false}) {
+            EXPECT_EQ(bytesOf(convolve1D(image, nullptr, size, horizontal)), Bytes(3, 0)) << size;
+        }
+    }
+}
+
 TEST(Convolve1D, OfAnEmptyImageIsEmpty) {
     for (const bool horizontal : {true, false}) {
         EXPECT_TRUE(convolved(0, 3, {}, {0.25, 0.5, 0.25}, horizontal).empty());
