@@ -47,7 +47,8 @@ void keepFreedMemory() {
 }
 
 // Nothing of the filter throws but an allocation of the C++ library, and only error diffusion's is
-// caught. Buffers hold whole commands then: halftoning, which allocates, is over when a bitmap begins.
+// caught. Buffers hold whole commands then: halftoning, which allocates, is over when a bitmap
+// begins.
 [[noreturn]] void endWithoutMemory() {
     kestoLogCommon(kestoLogCritical, "Out of memory, the job ends");
     std::fflush(nullptr);
