@@ -2,6 +2,8 @@
 #include <array>
 
 #include "image/raster_image.h"
+#include "image/tone_kernels.h"
+#include "lanes/choice.h"
 
 namespace {
 
@@ -27,6 +29,13 @@ bool RasterImage::Light(int brightness, int contrast) {
     // Wide sums, so that no argument overflows.
     const float slope = static_cast<float>(std::int64_t{contrast} + 100) / 100.0F;
     const auto offset = static_cast<float>(std::int64_t{brightness} + 128);
+    if (header.biBitCount == 8) {
+        for (std::int64_t y = 0; y < header.biHeight; ++y) {
+            lanes::best<ToneKernels>().light(rowAt(y), static_cast<std::size_t>(header.biWidth),
+                                             {offset, slope});
+        }
+        return true;
+    }
     std::array<std::uint8_t, 256> table{};
     for (int i = 0; i < 256; ++i) {
         table[static_cast<std::size_t>(i)] = lightLevel(i, offset, slope);
