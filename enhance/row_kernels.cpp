@@ -51,21 +51,6 @@ void filterExactly(const float* const* taps, const TapWeights& weights, std::siz
     lanes::storeLimited(truncated(withHalf(sums)) & all<Integers>(0xFF), out);
 }
 
-[[gnu::always_inline]] inline Floats tap(const float* const* taps, std::size_t k, std::size_t x) {
-    return lanes::load<Floats>(taps[k] + x);
-}
-
-template <std::size_t... k>
-[[gnu::always_inline]] inline Floats nearSums(const float* const* taps, const TapWeights& weights,
-                                              std::size_t x, std::index_sequence<k...> /*pairs*/) {
-    constexpr std::size_t pairs = sizeof...(k);
-    Floats sums = tap(taps, pairs, x) * all<Floats>(weights.near[pairs]);
-    ((sums = nearlyAdded(tap(taps, k, x) + tap(taps, 2 * pairs - k, x),
-                         all<Floats>(weights.near[k]), sums)),
-     ...);
-    return sums;
-}
-
 // Whether all are as far from a whole number as it takes to be cut off to the right one.
 [[gnu::always_inline]] inline bool areCertain(const Floats& numbers, const Integers& wholes) {
     const Floats fractions = numbers - lanes::asFloats(wholes);
@@ -74,38 +59,72 @@ template <std::size_t... k>
     return !isAny(isDoubtful);
 }
 
-struct ExactBlocks {
-    static void filter(const float* const* taps, const TapWeights& weights, std::size_t x,
-                       std::uint8_t* out) {
-        filterExactly(taps, weights, x, out);
-    }
+class ExactBlocks {
+public:
+    ExactBlocks(const float* const* taps, const TapWeights& weights)
+        : taps_(taps), weights_(weights) {}
+
+    void filter(std::size_t x, std::uint8_t* out) const { filterExactly(taps_, weights_, x, out); }
+
+private:
+    const float* const* taps_;
+    const TapWeights& weights_;
 };
 
+// Has taps and weights of its own: for all that the compiler knows those of the caller may be
+// overwritten with the bytes of a row.
 template <std::size_t pairs>
-struct NearBlocks {
-    [[gnu::always_inline]] static void filter(const float* const* taps, const TapWeights& weights,
-                                              std::size_t x, std::uint8_t* out) {
-        const Floats sums =
-            nearSums(taps, weights, x, std::make_index_sequence<pairs>()) + all<Floats>(0.5F);
+class NearBlocks {
+public:
+    [[gnu::always_inline]] NearBlocks(const float* const* taps, const TapWeights& weights)
+        : exact_(taps, weights) {
+        for (std::size_t k = 0; k <= pairs; ++k) {
+            weights_[k] = all<Floats>(weights.near[k]);
+        }
+        for (std::size_t k = 0; k <= 2 * pairs; ++k) {
+            taps_[k] = taps[k];
+        }
+    }
+
+    [[gnu::always_inline]] void filter(std::size_t x, std::uint8_t* out) const {
+        const Floats sums = nearSums(x, std::make_index_sequence<pairs>()) + all<Floats>(0.5F);
         const Integers wholes = lanes::integersOf(sums);
         if (areCertain(sums, wholes)) {
             lanes::storeLimited(wholes, out);
         } else {
-            filterExactly(taps, weights, x, out);
+            exact_.filter(x, out);
         }
     }
+
+private:
+    [[gnu::always_inline]] Floats tap(std::size_t k, std::size_t x) const {
+        return lanes::load<Floats>(taps_[k] + x);
+    }
+
+    template <std::size_t... k>
+    [[gnu::always_inline]] Floats nearSums(std::size_t x,
+                                           std::index_sequence<k...> /*pairs*/) const {
+        Floats sums = tap(pairs, x) * weights_[pairs];
+        ((sums = nearlyAdded(tap(k, x) + tap(2 * pairs - k, x), weights_[k], sums)), ...);
+        return sums;
+    }
+
+    ExactBlocks exact_;
+    Floats weights_[pairs + 1];
+    const float* taps_[2 * pairs + 1];
 };
 
 template <typename Blocks>
 void filterRow(const float* const* taps, const TapWeights& weights, std::size_t width,
                unsigned char* out) {
+    const Blocks blocks(taps, weights);
     std::size_t x = 0;
     for (; x + rowBlock <= width; x += rowBlock) {
-        Blocks::filter(taps, weights, x, out + x);
+        blocks.filter(x, out + x);
     }
     if (x < width) {
         std::array<std::uint8_t, rowBlock> rest;
-        Blocks::filter(taps, weights, x, rest.data());
+        blocks.filter(x, rest.data());
         std::copy_n(rest.data(), width - x, out + x);
     }
 }
