@@ -19,10 +19,17 @@ if(EXISTS /proc/cpuinfo)
     endif()
 endif()
 
+# Kernels are inlined whole: with checks for undefined behaviour at every operation a file of them takes
+# minutes to compile. They keep those for addresses.
+if(KESTO_SANITIZE MATCHES undefined)
+    set(kesto_unchecked -fno-sanitize=undefined)
+endif()
+
 # kesto_kernels(LIBRARY FILE...): adds files of kernels to a library, compiled once for every level
 # that the program can take
 function(kesto_kernels library)
     target_sources(${library} PRIVATE ${ARGN})
+    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS "${kesto_unchecked}")
     target_link_libraries(${library} PUBLIC kesto_lanes)
     if(Avx2 IN_LIST kesto_levels)
         add_library(${library}_avx2 OBJECT ${ARGN})
@@ -48,7 +55,7 @@ function(kesto_library_at_level name library level)
     kesto_sources_of(sources ${library})
     add_library(${name} STATIC ${sources})
     target_link_libraries(${name} PUBLIC kesto_compile)
-    target_compile_options(${name} PRIVATE ${kesto_options_of_${level}})
+    target_compile_options(${name} PRIVATE ${kesto_options_of_${level}} ${kesto_unchecked})
     # In one piece, which takes half of the time.
     set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 0)
 endfunction()
