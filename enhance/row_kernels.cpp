@@ -109,9 +109,9 @@ private:
         return sums;
     }
 
-    ExactBlocks exact_;
     Floats weights_[pairs + 1];
     const float* taps_[2 * pairs + 1];
+    ExactBlocks exact_;
 };
 
 template <typename Blocks>
