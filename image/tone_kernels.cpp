@@ -34,4 +34,4 @@ void light(std::uint8_t* row, std::size_t width, const ToneLine& line) {
 }  // namespace
 
 template <>
-const ToneTable ToneKernels<lanes::ThisLevel>::table = {light};
+const ToneFunctions ToneKernels<lanes::ThisLevel>::table = {light};

@@ -13,16 +13,16 @@ struct ToneLine {
 };
 
 /// Tones as they are compiled for a level of the processor.
-struct ToneTable {
+struct ToneFunctions {
     /// Every level of a row by a line.
     void (*light)(std::uint8_t* row, std::size_t width, const ToneLine& line);
 };
 
 template <typename Level>
 struct ToneKernels {
-    static const ToneTable table;
+    static const ToneFunctions table;
 };
 template <>
-const ToneTable ToneKernels<lanes::Baseline>::table;
+const ToneFunctions ToneKernels<lanes::Baseline>::table;
 template <>
-const ToneTable ToneKernels<lanes::Avx2>::table;
+const ToneFunctions ToneKernels<lanes::Avx2>::table;

@@ -93,15 +93,17 @@ template <typename Numbers, std::size_t size>
 ///
 /// `Arithmetic` says what is diffused and how. It has
 ///
-///   Numbers, the lanes of what is diffused, and State, derived from Windows<Numbers, reach>;
-///   reach; levelsBelow, whether the bytes of a row come into the lowest window, as what the row
-///   holds at first, or to the pixel; border, columns and rows around a pixel in which it must know
-///   whether there is a page; columnsPerByte of dots; entering(level): what comes into the lowest
-///   window; decide<inner>(state, level, time, within): the dots of one column, and the shares of
-///   their error; within(n) has the lanes whose pixel lies on the page with n columns and rows
-///   around it, and is not asked in inner columns, where all do; State::dots, a bit for every
-///   column, the last decided in the lowest one; store(dots, x, row): the dots that a lane has in
-///   eight columns, of which the first is x.
+/// - Numbers, the lanes of what is diffused, and State, derived from Windows<Numbers, reach>, with
+///   dots, a bit for every column, the last decided in the lowest one;
+/// - reach; border, columns and rows around a pixel in which it must know whether there is a page;
+///   columnsPerByte of dots; levelsBelow, whether the bytes of a row come into the lowest window,
+///   as what the row holds at first, or to the pixel;
+/// - start(): the state of a band before its first column;
+/// - entering(level): what comes into the lowest window;
+/// - decide<inner>(state, level, time, within): the dots of one column, and the shares of their
+///   error; within(n) has the lanes whose pixel lies on the page with n columns and rows around it,
+///   and is not asked in inner columns, where all do;
+/// - store(dots, x, row): the dots that a lane has in eight columns, of which the first is x.
 template <typename Arithmetic>
 class Wavefront {
     using Numbers = typename Arithmetic::Numbers;
