@@ -6,6 +6,8 @@
 
 #include "enhance/numeric.h"
 #include "enhance/row_filters.h"
+#include "enhance/row_kernels.h"
+#include "lanes/choice.h"
 
 namespace {
 
@@ -52,8 +54,8 @@ QMImage convolve1D(const QMImage& src, const double* kernel, int ksize, bool hor
     }
     const auto width = static_cast<std::size_t>(src.width);
     AlongRows rows(kernel, ksize, src.width);
-    AlongColumns columns(kernel, ksize, src.width, src.height, [&](int y, unsigned char* row) {
-        std::copy_n(nearestRow(src, y), width, row);
+    AlongColumns columns(kernel, ksize, src.width, src.height, [&](int y, float* row) {
+        lanes::best<RowKernels>().widen(nearestRow(src, y), width, row);
     });
     for (int y = 0; y < src.height; ++y) {
         unsigned char* out = result.data + static_cast<std::size_t>(y) * width;

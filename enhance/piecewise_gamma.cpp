@@ -1,8 +1,8 @@
 #include "enhance/piecewise_gamma.h"
 
-#include <algorithm>
-
 #include "enhance/numeric.h"
+#include "enhance/row_kernels.h"
+#include "lanes/choice.h"
 
 namespace {
 
@@ -35,14 +35,7 @@ ToneTable piecewiseGamma(int knee, float gammaLow, float gammaHigh) {
 
 void bendTones(const unsigned char* levels, std::size_t count, const ToneTable& table,
                unsigned char* bent) {
-    // Eight at a time, which the compiler writes out.
-    for (; count >= 8; count -= 8, levels += 8, bent += 8) {
-        for (int i = 0; i < 8; ++i) {
-            bent[i] = table[levels[i]];
-        }
-    }
-    std::transform(levels, levels + count, bent,
-                   [&table](unsigned char level) { return table[level]; });
+    lanes::best<RowKernels>().lookUp(levels, count, table.data(), bent);
 }
 
 void enh_piecewise_gamma(QMImage& img, int knee, float gammaLow, float gammaHigh) {

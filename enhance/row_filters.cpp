@@ -21,13 +21,21 @@ AlongRows::AlongRows(const double* kernel, int ksize, int width)
 }
 
 void AlongRows::filter(const unsigned char* row, unsigned char* out) {
-    const RowTable& kernels = lanes::best<RowKernels>();
+    extend(row);
+    lanes::best<RowKernels>().filter(shifted_.data(), weights_, width_, out);
+}
+
+void AlongRows::filterWide(const unsigned char* row, float* out) {
+    extend(row);
+    lanes::best<RowKernels>().filterWide(shifted_.data(), weights_, width_, out);
+}
+
+void AlongRows::extend(const unsigned char* row) {
     const auto first = extended_.begin() + taps_.half;
     const auto end = first + static_cast<std::ptrdiff_t>(width_);
-    kernels.widen(row, width_, extended_.data() + taps_.half);
+    lanes::best<RowKernels>().widen(row, width_, extended_.data() + taps_.half);
     std::fill(extended_.begin(), first, *first);
     std::fill(end, extended_.end(), *(end - 1));
-    kernels.filter(shifted_.data(), weights_, width_, out);
 }
 
 AlongColumns::AlongColumns(const double* kernel, int ksize, int width, int height, ReadRow readRow)
@@ -37,19 +45,16 @@ AlongColumns::AlongColumns(const double* kernel, int ksize, int width, int heigh
       height_(height),
       readRow_(std::move(readRow)),
       kept_(inWholeBlocks(width_) * std::max<std::size_t>(taps_.count(), 1)),
-      row_(width_),
       under_(taps_.count()) {}
 
 void AlongColumns::filter(int y, unsigned char* out) {
-    const RowTable& kernels = lanes::best<RowKernels>();
     for (; read_ < height_ && read_ <= y + taps_.last; ++read_) {
-        readRow_(read_, row_.data());
-        kernels.widen(row_.data(), width_, keptRow(read_));
+        readRow_(read_, keptRow(read_));
     }
     for (std::size_t k = 0; k < under_.size(); ++k) {
         under_[k] = keptRow(myClamp(y + static_cast<int>(k) - taps_.half, 0, height_ - 1));
     }
-    kernels.filter(under_.data(), weights_, width_, out);
+    lanes::best<RowKernels>().filter(under_.data(), weights_, width_, out);
 }
 
 float* AlongColumns::keptRow(int y) {

@@ -29,8 +29,12 @@ public:
     AlongRows(const double* kernel, int ksize, int width);
 
     void filter(const unsigned char* row, unsigned char* out);
+    /// The same, the bytes as floats.
+    void filterWide(const unsigned char* row, float* out);
 
 private:
+    void extend(const unsigned char* row);
+
     FilterTaps taps_;
     TapWeights weights_;
     std::size_t width_;
@@ -42,8 +46,8 @@ private:
 /// to the last, and each of the image's rows is looked at once.
 class AlongColumns {
 public:
-    /// Writes a row of the image that is filtered.
-    using ReadRow = std::function<void(int y, unsigned char* row)>;
+    /// Writes a row of the image that is filtered, its bytes as floats.
+    using ReadRow = std::function<void(int y, float* row)>;
 
     AlongColumns(const double* kernel, int ksize, int width, int height, ReadRow readRow);
 
@@ -60,6 +64,5 @@ private:
     ReadRow readRow_;
     int read_ = 0;             ///< rows read so far
     std::vector<float> kept_;  ///< the rows under the taps, row y in place y mod their number
-    std::vector<unsigned char> row_;
     std::vector<const float*> under_;
 };

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "lanes/byte_table.h"
 #include "lanes/conversion.h"
 #include "lanes/lanes.h"
 #include "lanes/native.h"
@@ -45,10 +46,17 @@ using Doubles = Lanes<double, rowBlock>;
     return sums;
 }
 
-void filterExactly(const float* const* taps, const TapWeights& weights, std::size_t x,
-                   std::uint8_t* out) {
+[[gnu::always_inline]] inline void storeBytes(const Integers& bytes, std::uint8_t* out) {
+    lanes::storeLimited(bytes, out);
+}
+[[gnu::always_inline]] inline void storeBytes(const Integers& bytes, float* out) {
+    lanes::store(lanes::asFloats(bytes), out);
+}
+
+template <typename Byte>
+void filterExactly(const float* const* taps, const TapWeights& weights, std::size_t x, Byte* out) {
     const Floats sums = lanes::asFloats(exactSums(taps, weights, x));
-    lanes::storeLimited(truncated(withHalf(sums)) & all<Integers>(0xFF), out);
+    storeBytes(truncated(withHalf(sums)) & all<Integers>(0xFF), out);
 }
 
 // Whether all are as far from a whole number as it takes to be cut off to the right one.
@@ -64,7 +72,10 @@ public:
     ExactBlocks(const float* const* taps, const TapWeights& weights)
         : taps_(taps), weights_(weights) {}
 
-    void filter(std::size_t x, std::uint8_t* out) const { filterExactly(taps_, weights_, x, out); }
+    template <typename Byte>
+    void filter(std::size_t x, Byte* out) const {
+        filterExactly(taps_, weights_, x, out);
+    }
 
 private:
     const float* const* taps_;
@@ -86,11 +97,12 @@ public:
         }
     }
 
-    [[gnu::always_inline]] void filter(std::size_t x, std::uint8_t* out) const {
+    template <typename Byte>
+    [[gnu::always_inline]] void filter(std::size_t x, Byte* out) const {
         const Floats sums = nearSums(x, std::make_index_sequence<pairs>()) + all<Floats>(0.5F);
         const Integers wholes = lanes::integersOf(sums);
         if (areCertain(sums, wholes)) {
-            lanes::storeLimited(wholes, out);
+            storeBytes(wholes, out);
         } else {
             exact_.filter(x, out);
         }
@@ -114,56 +126,91 @@ private:
     ExactBlocks exact_;
 };
 
-template <typename Blocks>
-void filterRow(const float* const* taps, const TapWeights& weights, std::size_t width,
-               unsigned char* out) {
+template <typename Blocks, typename Byte>
+void filterRow(const float* const* taps, const TapWeights& weights, std::size_t width, Byte* out) {
     const Blocks blocks(taps, weights);
     std::size_t x = 0;
     for (; x + rowBlock <= width; x += rowBlock) {
         blocks.filter(x, out + x);
     }
     if (x < width) {
-        std::array<std::uint8_t, rowBlock> rest;
+        std::array<Byte, rowBlock> rest;
         blocks.filter(x, rest.data());
         std::copy_n(rest.data(), width - x, out + x);
     }
 }
 
-template <std::size_t... pairs>
+template <typename Byte, std::size_t... pairs>
 constexpr auto nearFilters(std::index_sequence<pairs...> /*all*/) {
-    return std::array{filterRow<NearBlocks<pairs>>...};
+    return std::array{filterRow<NearBlocks<pairs>, Byte>...};
 }
 
-void filter(const float* const* taps, const TapWeights& weights, std::size_t width,
-            unsigned char* out) {
+template <typename Byte>
+void filter(const float* const* taps, const TapWeights& weights, std::size_t width, Byte* out) {
     constexpr auto byPairs =
-        nearFilters(std::make_index_sequence<TapWeights::mostNearTaps / 2 + 1>());
-    const auto row = weights.hasNear ? byPairs[weights.count / 2] : filterRow<ExactBlocks>;
+        nearFilters<Byte>(std::make_index_sequence<TapWeights::mostNearTaps / 2 + 1>());
+    const auto row = weights.hasNear ? byPairs[weights.count / 2] : filterRow<ExactBlocks, Byte>;
     row(taps, weights, width, out);
 }
 
+// Sums whose whole part has a place in 32 bits whatever the levels. Below 0 it does not matter how
+// they are rounded.
+struct SmallSums {
+    static constexpr float mostWeight = 4096.0F;
+
+    [[gnu::always_inline]] static Integers rounded(const Floats& sums) {
+        return lanes::integersOf(sums + all<Floats>(0.5F));
+    }
+};
+
+struct AnySums {
+    [[gnu::always_inline]] static Integers rounded(const Floats& sums) {
+        return truncated(withHalf(sums));
+    }
+};
+
+template <typename Sums>
 [[gnu::always_inline]] inline void addWeightedBlock(const std::uint8_t* a, const std::uint8_t* b,
                                                     float weight, std::uint8_t* out) {
     const Floats gained = asFloats(a) * all<Floats>(1.0F + weight);
     const Floats lost = asFloats(b) * all<Floats>(-weight);
-    const Floats sums = withHalf(gained + lost + all<Floats>(0.0F));
-    const Integers rounded = truncated(sums);
-    lanes::storeLimited(rounded, out);
+    lanes::storeLimited(Sums::rounded(gained + lost), out);
 }
 
-void addWeighted(const unsigned char* a, const unsigned char* b, float weight, std::size_t width,
-                 unsigned char* out) {
+template <typename Sums>
+void addWeightedRow(const unsigned char* a, const unsigned char* b, float weight, std::size_t width,
+                    unsigned char* out) {
     std::size_t x = 0;
     for (; x + rowBlock <= width; x += rowBlock) {
-        addWeightedBlock(a + x, b + x, weight, out + x);
+        addWeightedBlock<Sums>(a + x, b + x, weight, out + x);
     }
     if (x < width) {
         std::array<std::uint8_t, rowBlock> restOfA{};
         std::array<std::uint8_t, rowBlock> restOfB{};
         std::copy_n(a + x, width - x, restOfA.data());
         std::copy_n(b + x, width - x, restOfB.data());
-        addWeightedBlock(restOfA.data(), restOfB.data(), weight, restOfA.data());
+        addWeightedBlock<Sums>(restOfA.data(), restOfB.data(), weight, restOfA.data());
         std::copy_n(restOfA.data(), width - x, out + x);
+    }
+}
+
+void addWeighted(const unsigned char* a, const unsigned char* b, float weight, std::size_t width,
+                 unsigned char* out) {
+    const bool isSmall = weight <= SmallSums::mostWeight && weight >= -SmallSums::mostWeight;
+    const auto row = isSmall ? addWeightedRow<SmallSums> : addWeightedRow<AnySums>;
+    row(a, b, weight, width, out);
+}
+
+void lookUp(const unsigned char* bytes, std::size_t width, const unsigned char* table,
+            unsigned char* out) {
+    constexpr std::size_t block = lanes::ByteTable::block;
+    const lanes::ByteTable inRegisters(table);
+    std::size_t x = 0;
+    for (; x + block <= width; x += block) {
+        inRegisters.lookUp(bytes + x, out + x);
+    }
+    for (; x < width; ++x) {
+        out[x] = table[bytes[x]];
     }
 }
 
@@ -180,4 +227,5 @@ void widen(const unsigned char* bytes, std::size_t width, float* floats) {
 }  // namespace
 
 template <>
-const RowTable RowKernels<lanes::ThisLevel>::table = {filter, addWeighted, widen};
+const RowTable RowKernels<lanes::ThisLevel>::table = {filter<unsigned char>, filter<float>,
+                                                      addWeighted, lookUp, widen};

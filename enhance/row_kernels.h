@@ -18,11 +18,18 @@ struct RowTable {
     /// which the low 8 bits are written. The rows of the taps have room for whole blocks.
     void (*filter)(const float* const* taps, const TapWeights& weights, std::size_t width,
                    unsigned char* out);
+    /// The same, the bytes as floats.
+    void (*filterWide)(const float* const* taps, const TapWeights& weights, std::size_t width,
+                       float* out);
 
     /// a × (1 + weight) - b × weight of every pixel, in single precision, rounded and limited to
     /// 0..255.
     void (*addWeighted)(const unsigned char* a, const unsigned char* b, float weight,
                         std::size_t width, unsigned char* out);
+
+    /// Every byte by a table of 256; in place, if `out` is `bytes`.
+    void (*lookUp)(const unsigned char* bytes, std::size_t width, const unsigned char* table,
+                   unsigned char* out);
 
     /// Every byte as a float.
     void (*widen)(const unsigned char* bytes, std::size_t width, float* floats);

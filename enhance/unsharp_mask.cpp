@@ -26,8 +26,7 @@ QMImage add_Weighted(const QMImage& a, const QMImage& b, float weight) {
     return result;
 }
 
-SharpenedRows::SharpenedRows(int width, int height, float amount, int radius,
-                             AlongColumns::ReadRow readRow)
+SharpenedRows::SharpenedRows(int width, int height, float amount, int radius, ReadRow readRow)
     : readRow_(std::move(readRow)),
       weight_(amount / 100.0F),
       width_(static_cast<std::size_t>(width)),
@@ -36,7 +35,7 @@ SharpenedRows::SharpenedRows(int width, int height, float amount, int radius,
       kernel_(blurKernel(radius)),
       alongRows_(kernel_.data(), radius, width),
       alongColumns_(kernel_.data(), radius, width, height,
-                    [this](int y, unsigned char* out) { alongRows_.filter(row(y), out); }),
+                    [this](int y, float* out) { alongRows_.filterWide(row(y), out); }),
       blurred_(width_) {}
 
 // Each row is asked for once.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "enhance/qm_image.h"
@@ -17,8 +18,10 @@ QMImage enh_unsharp_mask(const QMImage& src, float amount, int radius);
 /// The same row by row, with no other rows in memory than those under the blur.
 class SharpenedRows {
 public:
-    /// `readRow` writes a row of the image that is sharpened.
-    SharpenedRows(int width, int height, float amount, int radius, AlongColumns::ReadRow readRow);
+    /// Writes a row of the image that is sharpened.
+    using ReadRow = std::function<void(int y, unsigned char* row)>;
+
+    SharpenedRows(int width, int height, float amount, int radius, ReadRow readRow);
     ~SharpenedRows() = default;
     SharpenedRows(const SharpenedRows&) = delete;
     SharpenedRows& operator=(const SharpenedRows&) = delete;
@@ -29,7 +32,7 @@ public:
 private:
     const unsigned char* row(int y);
 
-    AlongColumns::ReadRow readRow_;
+    ReadRow readRow_;
     float weight_;
     std::size_t width_;
     std::size_t kept_;  ///< rows, from the one that is sharpened to the last one under the blur

@@ -165,4 +165,23 @@ TEST(EnhPiecewiseGamma, GivesTheTableOfTheReferenceForAnyExponents) {
     }
 }
 
+TEST(BendTones, TakesEveryLevelFromItsTableAtEveryWidth) {
+    ToneTable table{};
+    Bytes levels;
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        table[i] = static_cast<std::uint8_t>(i * 167 + 41 + i / 16);
+    }
+    for (int i = 0; i < 1024; ++i) {
+        levels.push_back(static_cast<std::uint8_t>(i * 59 + i / 256));
+    }
+    for (std::size_t width = 0; width <= 1024; width += width < 130 ? 1 : 149) {
+        Bytes bent(width + 1, 77);
+        bendTones(levels.data(), width, table, bent.data());
+        for (std::size_t x = 0; x < width; ++x) {
+            ASSERT_EQ(bent[x], table[levels[x]]) << x << " of " << width;
+        }
+        EXPECT_EQ(bent.back(), 77) << width;
+    }
+}
+
 }  // namespace

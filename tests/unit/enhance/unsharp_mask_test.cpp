@@ -41,6 +41,26 @@ TEST(AddWeighted, OfAnyPairOfLevelsIsThatOfTheReference) {
     }
 }
 
+// Beyond 32 bits a sum becomes 0, and so does one that is no number.
+TEST(AddWeighted, OfAnyPairOfLevelsIsThatOfTheReferenceHoweverLargeTheWeight) {
+    const Bytes ends = {0, 1, 2, 127, 128, 254, 255};
+    Bytes a;
+    Bytes b;
+    for (const std::uint8_t one : ends) {
+        for (const std::uint8_t other : ends) {
+            a.push_back(one);
+            b.push_back(other);
+        }
+    }
+    for (const float size : {4095.0F, 4096.0F, 4097.0F, 1e7F, 1e9F, 1e38F, 3.4e38F}) {
+        for (const float weight : {size, -size}) {
+            EXPECT_EQ(weighted(a, b, weight), reference::weightedDifference(a, b, weight))
+                << weight;
+        }
+    }
+    EXPECT_EQ(weighted({255}, {0}, 1e9F), Bytes{0});
+}
+
 TEST(AddWeighted, TakesTheSecondImageByTheNumberOfThePixel) {
     const QMImage a = greyImage(2, 2, {10, 10, 10, 10});
     const QMImage b = greyImage(3, 2, {10, 9, 8, 7, 6, 5});
