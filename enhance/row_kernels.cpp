@@ -17,6 +17,7 @@ using lanes::Lanes;
 using Floats = Lanes<float, rowBlock>;
 using Integers = Lanes<std::int32_t, rowBlock>;
 using Doubles = Lanes<double, rowBlock>;
+using Words = Lanes<std::int16_t, rowBlock>;
 
 [[gnu::always_inline]] inline Floats asFloats(const std::uint8_t* bytes) {
     return lanes::asFloats<Floats::count>(lanes::loadBytes(bytes));
@@ -153,52 +154,73 @@ void filter(const float* const* taps, const TapWeights& weights, std::size_t wid
     row(taps, weights, width, out);
 }
 
+[[gnu::always_inline]] inline Floats weightedSums(const std::uint8_t* a, const std::uint8_t* b,
+                                                  float weight) {
+    const Floats gained = asFloats(a) * all<Floats>(1.0F + weight);
+    const Floats lost = asFloats(b) * all<Floats>(-weight);
+    return gained + lost;
+}
+
+// With a whole weight all is whole, and exact in single precision: in as many bits as hold it,
+// then.
+struct WholeSums {
+    static constexpr float mostWeight = 127.0F;
+
+    [[gnu::always_inline]] static void add(const std::uint8_t* a, const std::uint8_t* b,
+                                           float weight, std::uint8_t* out) {
+        const Words kept = lanes::asWords<rowBlock>(lanes::loadBytes(a));
+        const Words lost = lanes::asWords<rowBlock>(lanes::loadBytes(b));
+        const Words factor = all<Words>(static_cast<std::int16_t>(weight));
+        lanes::storeLimited(kept + (kept - lost) * factor, out);
+    }
+};
+
 // Sums whose whole part has a place in 32 bits whatever the levels. Below 0 it does not matter how
 // they are rounded.
 struct SmallSums {
     static constexpr float mostWeight = 4096.0F;
 
-    [[gnu::always_inline]] static Integers rounded(const Floats& sums) {
-        return lanes::integersOf(sums + all<Floats>(0.5F));
+    [[gnu::always_inline]] static void add(const std::uint8_t* a, const std::uint8_t* b,
+                                           float weight, std::uint8_t* out) {
+        const Floats sums = weightedSums(a, b, weight) + all<Floats>(0.5F);
+        lanes::storeLimited(lanes::integersOf(sums), out);
     }
 };
 
 struct AnySums {
-    [[gnu::always_inline]] static Integers rounded(const Floats& sums) {
-        return truncated(withHalf(sums));
+    [[gnu::always_inline]] static void add(const std::uint8_t* a, const std::uint8_t* b,
+                                           float weight, std::uint8_t* out) {
+        lanes::storeLimited(truncated(withHalf(weightedSums(a, b, weight))), out);
     }
 };
-
-template <typename Sums>
-[[gnu::always_inline]] inline void addWeightedBlock(const std::uint8_t* a, const std::uint8_t* b,
-                                                    float weight, std::uint8_t* out) {
-    const Floats gained = asFloats(a) * all<Floats>(1.0F + weight);
-    const Floats lost = asFloats(b) * all<Floats>(-weight);
-    lanes::storeLimited(Sums::rounded(gained + lost), out);
-}
 
 template <typename Sums>
 void addWeightedRow(const unsigned char* a, const unsigned char* b, float weight, std::size_t width,
                     unsigned char* out) {
     std::size_t x = 0;
     for (; x + rowBlock <= width; x += rowBlock) {
-        addWeightedBlock<Sums>(a + x, b + x, weight, out + x);
+        Sums::add(a + x, b + x, weight, out + x);
     }
     if (x < width) {
         std::array<std::uint8_t, rowBlock> restOfA{};
         std::array<std::uint8_t, rowBlock> restOfB{};
         std::copy_n(a + x, width - x, restOfA.data());
         std::copy_n(b + x, width - x, restOfB.data());
-        addWeightedBlock<Sums>(restOfA.data(), restOfB.data(), weight, restOfA.data());
+        Sums::add(restOfA.data(), restOfB.data(), weight, restOfA.data());
         std::copy_n(restOfA.data(), width - x, out + x);
     }
 }
 
 void addWeighted(const unsigned char* a, const unsigned char* b, float weight, std::size_t width,
                  unsigned char* out) {
-    const bool isSmall = weight <= SmallSums::mostWeight && weight >= -SmallSums::mostWeight;
-    const auto row = isSmall ? addWeightedRow<SmallSums> : addWeightedRow<AnySums>;
-    row(a, b, weight, width, out);
+    const auto isUpTo = [weight](float most) { return weight <= most && weight >= -most; };
+    if (isUpTo(WholeSums::mostWeight) && weight == static_cast<float>(static_cast<int>(weight))) {
+        addWeightedRow<WholeSums>(a, b, weight, width, out);
+    } else if (isUpTo(SmallSums::mostWeight)) {
+        addWeightedRow<SmallSums>(a, b, weight, width, out);
+    } else {
+        addWeightedRow<AnySums>(a, b, weight, width, out);
+    }
 }
 
 void lookUp(const unsigned char* bytes, std::size_t width, const unsigned char* table,

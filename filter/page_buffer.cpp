@@ -13,5 +13,6 @@ bool PageBuffer::growTo(std::size_t size) {
     static_cast<void>(block_.release());
     block_.reset(grown);
     capacity_ = size;
+    preferLargePages(grown, size);
     return true;
 }

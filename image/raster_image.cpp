@@ -101,6 +101,7 @@ bool RasterImage::allocate(Rows rows) {
     const std::size_t size = GetSize();
     useBlock(MallocBuffer(static_cast<unsigned char*>(rows == Rows::Zeroed ? std::calloc(size, 1)
                                                                            : std::malloc(size))));
+    preferLargePages(dib.get(), size);
     if (!dib) {
         setLastError("RasterImage::Create can't allocate memory");
         return false;

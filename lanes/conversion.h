@@ -95,7 +95,8 @@ template <int count>
 }
 
 /// Stores sixteen numbers as bytes, limited to 0..255.
-[[gnu::always_inline]] inline void storeLimited(const Lanes<std::int32_t, 16>& numbers,
+template <typename Number>
+[[gnu::always_inline]] inline void storeLimited(const Lanes<Number, 16>& numbers,
                                                 std::uint8_t* bytes) {
     const Bytes limited = limitedBytes(numbers);
     std::memcpy(bytes, &limited, sizeof limited);

@@ -26,6 +26,7 @@ namespace lanes {
 using EightIntegers = Lanes<std::int32_t, 8>;
 using SixteenIntegers = Lanes<std::int32_t, 16>;
 using SixteenFloats = Lanes<float, 16>;
+using SixteenWords = Lanes<std::int16_t, 16>;
 
 template <std::size_t bytes>
 using Words [[gnu::vector_size(bytes)]] = std::int16_t;
@@ -73,6 +74,12 @@ using FloatRegister = SixteenFloats::Register;
         _mm_packus_epi16(_mm256_castsi256_si128(inOrder), _mm256_extracti128_si256(inOrder, 1)));
 }
 
+[[gnu::always_inline]] inline Bytes limitedBytes(const SixteenWords& numbers) {
+    const auto words = reinterpret_cast<__m256i>(numbers.part[0]);
+    return reinterpret_cast<Bytes>(
+        _mm_packus_epi16(_mm256_castsi256_si128(words), _mm256_extracti128_si256(words, 1)));
+}
+
 #elif !defined(LANES_PLAIN) && defined(__SSE2__)
 
 [[gnu::always_inline]] inline WordRegister saturatedSum(WordRegister a, WordRegister b) {
@@ -95,6 +102,11 @@ using FloatRegister = SixteenFloats::Register;
                                reinterpret_cast<__m128i>(numbers.part[i + 1]));
     };
     return reinterpret_cast<Bytes>(_mm_packus_epi16(words(0), words(2)));
+}
+
+[[gnu::always_inline]] inline Bytes limitedBytes(const SixteenWords& numbers) {
+    return reinterpret_cast<Bytes>(_mm_packus_epi16(reinterpret_cast<__m128i>(numbers.part[0]),
+                                                    reinterpret_cast<__m128i>(numbers.part[1])));
 }
 
 #else
@@ -127,14 +139,15 @@ using FloatRegister = SixteenFloats::Register;
 }
 
 /// Limited to 0..255.
-[[gnu::always_inline]] inline Bytes limitedBytes(const SixteenIntegers& numbers) {
-    const SixteenIntegers none = all<SixteenIntegers>(0);
-    const SixteenIntegers limited = smaller(larger(numbers, none), all<SixteenIntegers>(255));
-    std::int32_t integers[SixteenIntegers::count];
-    store(limited, integers);
+template <typename Number>
+[[gnu::always_inline]] inline Bytes limitedBytes(const Lanes<Number, 16>& numbers) {
+    using Some = Lanes<Number, 16>;
+    const Some limited = smaller(larger(numbers, all<Some>(0)), all<Some>(255));
+    Number one[Some::count];
+    store(limited, one);
     Bytes bytes;
-    for (int i = 0; i < SixteenIntegers::count; ++i) {
-        bytes[i] = static_cast<std::uint8_t>(integers[i]);
+    for (int i = 0; i < Some::count; ++i) {
+        bytes[i] = static_cast<std::uint8_t>(one[i]);
     }
     return bytes;
 }

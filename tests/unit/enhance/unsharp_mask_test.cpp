@@ -36,7 +36,8 @@ TEST(AddWeighted, OfAnyPairOfLevelsIsThatOfTheReference) {
         a.push_back(static_cast<std::uint8_t>(i / 256));
         b.push_back(static_cast<std::uint8_t>(i % 256));
     }
-    for (const float weight : {3.0F, 0.1F, 0.7F, 1.5F, -0.3F, 0.0F}) {
+    for (const float weight :
+         {3.0F, 0.1F, 0.7F, 1.5F, -0.3F, 0.0F, -1.0F, 127.0F, -127.0F, 128.0F, -129.0F, 1000.0F}) {
         EXPECT_EQ(weighted(a, b, weight), reference::weightedDifference(a, b, weight)) << weight;
     }
 }

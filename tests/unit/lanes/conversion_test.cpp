@@ -39,6 +39,17 @@ TEST(Conversion, LimitsNumbersToBytes) {
     }
 }
 
+TEST(Conversion, LimitsNumbersOfTwoBytesToBytes) {
+    using Words = lanes::Lanes<std::int16_t, 16>;
+    const std::array<std::int16_t, 16> numbers = {0,   1,    254, 255, 256, -1, 32767, -32768,
+                                                  128, -128, 100, 511, 7,   8,  -255,  1000};
+    std::array<std::uint8_t, 16> bytes{};
+    lanes::storeLimited(lanes::load<Words>(numbers.data()), bytes.data());
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        EXPECT_EQ(bytes[i], std::clamp<int>(numbers[i], 0, 255)) << numbers[i];
+    }
+}
+
 TEST(Conversion, CutsFloatsOffTowardsZero) {
     const std::array<float, 16> floats = {0.0F,   0.5F,  0.99F, 1.0F,  254.99F, 255.5F,
                                           1e9F,   -0.5F, -1.5F, -2.0F, 100.1F,  128.0F,
