@@ -66,18 +66,20 @@ endif()
 
 # kesto_discover_tests(NAME LABEL LABEL [SPOOL | OWN_FOLDERS] [OPTION...]): makes a test of CTest of
 # every test in a program. SPOOL is for those that start the filter or print a page. What else is given
-# goes to gtest_discover_tests. For another processor a whole program is one test: starting the emulator
-# for each of hundreds takes longer than what they do.
+# goes to gtest_discover_tests. For another processor a whole program is one test, and under the sanitizers
+# one of unit tests is: starting it for each of hundreds takes longer than what they do.
 function(kesto_discover_tests name)
     cmake_parse_arguments(PARSE_ARGV 1 tests "SPOOL;OWN_FOLDERS" "LABEL" "PROPERTIES")
-    if(CMAKE_CROSSCOMPILING)
-        add_test(NAME ${name} COMMAND ${name})
-        set_tests_properties(${name} PROPERTIES LABELS ${tests_LABEL} TIMEOUT 1200)
-        return()
-    endif()
     if(tests_SPOOL)
         list(APPEND tests_PROPERTIES RESOURCE_LOCK spool)
-    elseif(tests_OWN_FOLDERS)
+    endif()
+    if(CMAKE_CROSSCOMPILING OR (KESTO_SANITIZE AND tests_LABEL STREQUAL "unit"))
+        add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
+        set_tests_properties(${name}
+            PROPERTIES LABELS ${tests_LABEL} TIMEOUT 1200 ${tests_PROPERTIES})
+        return()
+    endif()
+    if(tests_OWN_FOLDERS)
         list(APPEND tests_PROPERTIES ${KESTO_SPOOL_LOCK})
         # What this version of CMake puts in front of a program that is a test.
         set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR "${KESTO_OWN_FOLDERS}")
