@@ -178,7 +178,7 @@ std::vector<Block> blocksOf(bool quick) {
         {{parcel, 20, photograph, 8, false}, Output::File, true, 4},
         {{a4, 1, photograph, 8, false}, Output::File, true, 5},
         {{a4, 20, photograph, 8, false}, Output::File, true, 4},
-        {{a4, 20, photograph, 8, false}, Output::Pipe, false, 4},
+        {{a4, 20, photograph, 8, false}, Output::Pipe, true, 10},
         {{a4, 20, photograph, 8, true}, Output::File, false, 4},
         {{a4, 20, lineArt, 8, false}, Output::File, false, 4},
         {{a4, 20, lineArt, 8, true}, Output::File, false, 4},

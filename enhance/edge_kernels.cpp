@@ -13,6 +13,15 @@ namespace {
 using lanes::all;
 using lanes::Lanes;
 
+// Eight dots as bytes of 255 and 0, by their bits.
+constexpr std::array<ByteWord, 256> dotBytes = [] {
+    std::array<ByteWord, 256> words{};
+    for (std::size_t bits = 0; bits < words.size(); ++bits) {
+        words[bits] = unpackedBits(static_cast<std::uint8_t>(bits)) * 255;
+    }
+    return words;
+}();
+
 constexpr float blackNeighbourRelief = 0.1427F;
 
 /// Errors in single precision, each step rounded.
@@ -74,7 +83,7 @@ public:
     // Bytes of 255 and 0.
     [[gnu::always_inline]] static void store(std::int32_t dots, std::ptrdiff_t x,
                                              std::uint8_t* row) {
-        storeWord(unpackedBits(static_cast<std::uint8_t>(dots)) * 255, row + x);
+        storeWord(dotBytes[static_cast<std::uint8_t>(dots)], row + x);
     }
 
 private:
