@@ -57,10 +57,8 @@ void LevelCounts::add(const unsigned char* row, std::size_t width) {
     std::size_t x = 0;
     for (; x + 8 <= width; x += 8) {
         ByteWord levels = loadWord(row + x);
-        // By twos: the two lower bytes of a register are had without a shift.
-        for (std::size_t i = 0; i < 8; i += 2, levels >>= 16) {
+        for (std::size_t i = 0; i < 8; ++i, levels >>= 8) {
             ++counts_[i % counts_.size()][levels & 0xFF];
-            ++counts_[(i + 1) % counts_.size()][levels >> 8 & 0xFF];
         }
     }
     for (; x < width; ++x) {
