@@ -1,6 +1,9 @@
 // Whole processes side by side, measured in turns within one run: the floor, the filter with
 // every halftone type and setting, and CUPS's own label filter on the one-bit version of the
-// same pages. Prints a table in which every time is the smallest of several.
+// same pages. Prints a table in which every time is the smallest of several. Where other machines
+// of the same host are busy, a second may be slower than the one before by a half: so the floor
+// runs before every program once more, and the middle one of the ratios of such pairs is printed,
+// too.
 //
 //     process_bench FILTER FLOOR PPD LABEL-FILTER LABEL-PPD-FOLDER WORK-FOLDER [--quick]
 
@@ -36,6 +39,7 @@ struct Row {
     Command command;
     Output output;
     Cost best = {1e9, 1e9};
+    std::vector<double> ratios = {};  ///< to the floor run just before
 };
 
 /// Pages that all rows of one block of the table work on.
@@ -116,12 +120,25 @@ void removeNewDumps(const std::vector<fs::path>& before) {
     }
 }
 
-void measure(Row& row, const std::string& outputPath) {
+Cost costOf(const Row& row, const std::string& outputPath) {
     const std::vector<fs::path> before = dumps();
     const Cost cost = timedRun(row.command, row.output, outputPath);
     removeNewDumps(before);
+    return cost;
+}
+
+void measure(Row& row, const Row& floor, const std::string& outputPath) {
+    const Cost least = costOf(floor, outputPath);
+    const Cost cost = costOf(row, outputPath);
+    row.ratios.push_back(cost.seconds / least.seconds);
     row.best.seconds = std::min(row.best.seconds, cost.seconds);
     row.best.peakMegabytes = std::min(row.best.peakMegabytes, cost.peakMegabytes);
+}
+
+double middleOf(std::vector<double> numbers) {
+    const auto middle = numbers.begin() + static_cast<std::ptrdiff_t>(numbers.size() / 2);
+    std::nth_element(numbers.begin(), middle, numbers.end());
+    return *middle;
 }
 
 void printRows(const std::vector<Row>& rows, const Block& block) {
@@ -132,13 +149,13 @@ void printRows(const std::vector<Row>& rows, const Block& block) {
                 block.form.content == PageContent::LineArt ? "line art" : "photograph",
                 block.form.compressed ? "compressed" : "uncompressed",
                 block.output == Output::File ? "file" : "pipe");
-    std::printf("%-28s %10s %10s %8s %9s %8s\n", "", "ms", "ns/pixel", "x floor", "peak MB",
-                "x page");
+    std::printf("%-28s %10s %10s %8s %8s %9s %8s\n", "", "ms", "ns/pixel", "x floor", "in pairs",
+                "peak MB", "x page");
     for (const Row& row : rows) {
-        std::printf("%-28s %10.2f %10.2f %8.2f %9.1f %8.1f\n", row.name.c_str(),
+        std::printf("%-28s %10.2f %10.2f %8.2f %8.2f %9.1f %8.1f\n", row.name.c_str(),
                     row.best.seconds * 1e3, row.best.seconds * 1e9 / pixels,
-                    row.best.seconds / rows.front().best.seconds, row.best.peakMegabytes,
-                    row.best.peakMegabytes * 1e6 / pageBytes);
+                    row.best.seconds / rows.front().best.seconds, middleOf(row.ratios),
+                    row.best.peakMegabytes, row.best.peakMegabytes * 1e6 / pageBytes);
     }
     std::fflush(stdout);
 }
@@ -153,7 +170,7 @@ void run(const Programs& programs, const Block& block) {
     std::vector<Row> rows = rowsOf(programs, block, raster, bitRaster);
     for (int i = 0; i < block.repetitions; ++i) {
         for (Row& row : rows) {
-            measure(row, programs.work + "/output");
+            measure(row, rows.front(), programs.work + "/output");
         }
     }
     printRows(rows, block);

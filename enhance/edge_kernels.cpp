@@ -11,6 +11,7 @@
 namespace {
 
 using lanes::all;
+using lanes::chosen;
 using lanes::Lanes;
 
 // Eight dots as bytes of 255 and 0, by their bits.
@@ -22,7 +23,15 @@ constexpr std::array<ByteWord, 256> dotBytes = [] {
     return words;
 }();
 
-constexpr float blackNeighbourRelief = 0.1427F;
+// What a white dot takes from its level, by the black dots left of it and above.
+constexpr float takenBeside(int blackDots) {
+    constexpr float blackNeighbourRelief = 0.1427F;
+    float relief = 0.0F;
+    for (int i = 0; i < blackDots; ++i) {
+        relief = relief + blackNeighbourRelief;
+    }
+    return (1.0F - relief) * -255.0F;
+}
 
 /// Errors in single precision, each step rounded.
 class FloatDiffusion {
@@ -65,13 +74,18 @@ public:
                                               std::ptrdiff_t time, Within within) {
         const Numbers value = state.own[0] + level;
         const Mask white = value > state.threshold;
-        Numbers relief = all<Numbers>(blackNeighbourRelief) & state.black.back();
-        relief = relief + (all<Numbers>(blackNeighbourRelief) & blackAbove(state, time));
+        const Mask left = state.black.back();
+        const Mask above = blackAbove(state, time);
+        Mask isOne = left | above;
+        Mask areTwo = left & above;
         if constexpr (!inner) {
-            relief = relief & within(border);
+            isOne = isOne & within(border);
+            areTwo = areTwo & within(border);
         }
-        const Numbers taken = (all<Numbers>(1.0F) - relief) * all<Numbers>(-255.0F);
-        Numbers error = (taken & white) + value;
+        const Numbers taken =
+            chosen(areTwo, all<Numbers>(takenBeside(2)),
+                   chosen(isOne, all<Numbers>(takenBeside(1)), all<Numbers>(takenBeside(0))));
+        Numbers error = chosen(white, taken + value, value);
         if constexpr (!inner) {
             error = error & within(0);
         }
@@ -106,7 +120,8 @@ private:
         add(state.below[0][0], 0.226194F);
         add(state.below[0][1], 0.128835F);
         add(state.below[0][2], 0.243191F);
-        add(state.below[0][3], -0.111078F);
+        // The first share that the pixel gets: 0 and the share are the share.
+        state.below[0][3] = error * all<Numbers>(-0.111078F);
     }
 
     float threshold_;

@@ -18,6 +18,7 @@ using Floats = Lanes<float, rowBlock>;
 using Integers = Lanes<std::int32_t, rowBlock>;
 using Doubles = Lanes<double, rowBlock>;
 using Words = Lanes<std::int16_t, rowBlock>;
+using Wholes = lanes::NearestWholes<rowBlock>;
 
 [[gnu::always_inline]] inline Floats asFloats(const std::uint8_t* bytes) {
     return lanes::asFloats<Floats::count>(lanes::loadBytes(bytes));
@@ -54,18 +55,23 @@ using Words = Lanes<std::int16_t, rowBlock>;
     lanes::store(lanes::asFloats(bytes), out);
 }
 
+[[gnu::always_inline]] inline void storeBytes(const Wholes& wholes, std::uint8_t* out) {
+    lanes::storeLimited(wholes.integers(), out);
+}
+[[gnu::always_inline]] inline void storeBytes(const Wholes& wholes, float* out) {
+    lanes::store(wholes.floats(), out);
+}
+
 template <typename Byte>
 void filterExactly(const float* const* taps, const TapWeights& weights, std::size_t x, Byte* out) {
     const Floats sums = lanes::asFloats(exactSums(taps, weights, x));
     storeBytes(truncated(withHalf(sums)) & all<Integers>(0xFF), out);
 }
 
-// Whether all are as far from a whole number as it takes to be cut off to the right one.
-[[gnu::always_inline]] inline bool areCertain(const Floats& numbers, const Integers& wholes) {
-    const Floats fractions = numbers - lanes::asFloats(wholes);
-    const auto isDoubtful = (all<Floats>(TapWeights::nearMargin) > fractions) |
-                            (fractions > all<Floats>(1.0F - TapWeights::nearMargin));
-    return !isAny(isDoubtful);
+// Whether all are as far from halves as it takes to be rounded as demanded.
+[[gnu::always_inline]] inline bool areCertain(const Floats& numbers, const Floats& wholes) {
+    const Floats distances = lanes::magnitudes(numbers - wholes);
+    return !isAny(distances > all<Floats>(0.5F - TapWeights::nearMargin));
 }
 
 class ExactBlocks {
@@ -100,9 +106,9 @@ public:
 
     template <typename Byte>
     [[gnu::always_inline]] void filter(std::size_t x, Byte* out) const {
-        const Floats sums = nearSums(x, std::make_index_sequence<pairs>()) + all<Floats>(0.5F);
-        const Integers wholes = lanes::integersOf(sums);
-        if (areCertain(sums, wholes)) {
+        const Floats sums = nearSums(x, std::make_index_sequence<pairs>());
+        const Wholes wholes(sums);
+        if (areCertain(sums, wholes.floats())) {
             storeBytes(wholes, out);
         } else {
             exact_.filter(x, out);
@@ -117,9 +123,11 @@ private:
     template <std::size_t... k>
     [[gnu::always_inline]] Floats nearSums(std::size_t x,
                                            std::index_sequence<k...> /*pairs*/) const {
-        Floats sums = tap(pairs, x) * weights_[pairs];
-        ((sums = nearlyAdded(tap(k, x) + tap(2 * pairs - k, x), weights_[k], sums)), ...);
-        return sums;
+        // Two sums, so that half as many additions wait for each other.
+        Floats sums[2] = {tap(pairs, x) * weights_[pairs], all<Floats>(0.0F)};
+        ((sums[k % 2] = nearlyAdded(tap(k, x) + tap(2 * pairs - k, x), weights_[k], sums[k % 2])),
+         ...);
+        return sums[0] + sums[1];
     }
 
     Floats weights_[pairs + 1];

@@ -42,6 +42,35 @@ template <int count>
         [](auto x) { return __builtin_convertvector(x, typename Some::Register); }, numbers);
 }
 
+/// The whole numbers next to floats from 0 to 255, a half to the even one: with this added there
+/// are no places left behind the point, and the number stands in the low bits.
+template <int count>
+class NearestWholes {
+public:
+    [[gnu::always_inline]] explicit NearestWholes(const Lanes<float, count>& numbers)
+        : shifted_(numbers + all<Lanes<float, count>>(shift)) {}
+
+    [[gnu::always_inline]] Lanes<float, count> floats() const {
+        return shifted_ - all<Lanes<float, count>>(shift);
+    }
+    [[gnu::always_inline]] Lanes<std::int32_t, count> integers() const {
+        using Some = Lanes<std::int32_t, count>;
+        return registerwise<Some>(
+                   [](auto x) { return reinterpret_cast<typename Some::Register>(x); }, shifted_) &
+               all<Some>(0xFF);
+    }
+
+private:
+    static constexpr float shift = 12582912.0F;  // 1.5 * 2^23
+    Lanes<float, count> shifted_;
+};
+
+/// Without their signs.
+template <int count>
+[[gnu::always_inline]] inline Lanes<float, count> magnitudes(const Lanes<float, count>& numbers) {
+    return numbers & all<Lanes<std::int32_t, count>>(0x7FFFFFFF);
+}
+
 /// The first eight bytes as floats, or all sixteen.
 template <int count>
 [[gnu::always_inline]] inline Lanes<float, count> asFloats(Bytes bytes) {

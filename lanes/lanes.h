@@ -153,6 +153,16 @@ template <typename Number, int count>
     return registerwise<Lanes<Number, count>>([](auto x, auto y) { return x | y; }, a, b);
 }
 
+/// The numbers of `a` where the mask is set, those of `b` elsewhere.
+template <typename Mask, typename Number, int count>
+[[gnu::always_inline]] inline Lanes<Number, count> chosen(const Lanes<Mask, count>& mask,
+                                                          const Lanes<Number, count>& a,
+                                                          const Lanes<Number, count>& b) {
+    static_assert(sizeof(Mask) == sizeof(Number) && std::is_integral_v<Mask>);
+    return registerwise<Lanes<Number, count>>([](auto set, auto x, auto y) { return set ? x : y; },
+                                              mask, a, b);
+}
+
 template <typename Number, int count>
 [[gnu::always_inline]] inline Lanes<Number, count> larger(const Lanes<Number, count>& a,
                                                           const Lanes<Number, count>& b) {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <numeric>
 
 namespace {
@@ -58,6 +59,34 @@ TEST(Conversion, CutsFloatsOffTowardsZero) {
     lanes::store(lanes::integersOf(lanes::load<Floats>(floats.data())), integers.data());
     for (std::size_t i = 0; i < integers.size(); ++i) {
         EXPECT_EQ(integers[i], static_cast<std::int32_t>(floats[i])) << floats[i];
+    }
+}
+
+TEST(Conversion, RoundsFloatsToTheNextWholeNumberAndAHalfToTheEvenOne) {
+    const std::array<float, 16> floats = {0.0F,   0.25F,  0.5F,    0.75F,   1.0F,   1.5F,
+                                          2.5F,   127.5F, 127.51F, 128.49F, 128.5F, 254.4F,
+                                          254.6F, 255.0F, 255.1F,  -0.0F};
+    const std::array<int, 16> expected = {0,   0,   0,   1,   1,   2,   2,   128,
+                                          128, 128, 128, 254, 255, 255, 255, 0};
+    const lanes::NearestWholes<16> wholes(lanes::load<Floats>(floats.data()));
+    std::array<float, 16> wholeFloats{};
+    std::array<std::int32_t, 16> integers{};
+    lanes::store(wholes.floats(), wholeFloats.data());
+    lanes::store(wholes.integers(), integers.data());
+    for (std::size_t i = 0; i < floats.size(); ++i) {
+        EXPECT_EQ(integers[i], expected[i]) << floats[i];
+        EXPECT_EQ(wholeFloats[i], static_cast<float>(expected[i])) << floats[i];
+    }
+}
+
+TEST(Conversion, TakesSignsOff) {
+    const std::array<float, 16> floats = {0.0F, -0.0F, 1.5F, -1.5F, -255.0F, 1e-9F, -1e-9F, -0.5F,
+                                          0.5F, 3.0F,  4.0F, -5.0F, 6.0F,    -7.0F, 8.0F,   -9.0F};
+    std::array<float, 16> magnitudes{};
+    lanes::store(lanes::magnitudes(lanes::load<Floats>(floats.data())), magnitudes.data());
+    for (std::size_t i = 0; i < floats.size(); ++i) {
+        EXPECT_EQ(magnitudes[i], std::fabs(floats[i])) << floats[i];
+        EXPECT_FALSE(std::signbit(magnitudes[i])) << floats[i];
     }
 }
 

@@ -65,11 +65,13 @@ TEST(Lanes, CompareAndKeepWhereAMaskIsSet) {
         const Words second = lanes::load<Words>(b.data());
         const auto kept = numbersOf(first & (first > second));
         const auto others = numbersOf(first & ~(first > second));
+        const auto either = numbersOf(chosen(first > second, first, second + second));
         const auto most = numbersOf(larger(first, second));
         const auto least = numbersOf(smaller(first, second));
         for (std::size_t i = 0; i < kept.size(); ++i) {
             EXPECT_EQ(kept[i], a[i] > b[i] ? a[i] : 0);
             EXPECT_EQ(others[i], a[i] > b[i] ? 0 : a[i]);
+            EXPECT_EQ(either[i], a[i] > b[i] ? a[i] : static_cast<std::int16_t>(2 * b[i]));
             EXPECT_EQ(most[i], std::max(a[i], b[i]));
             EXPECT_EQ(least[i], std::min(a[i], b[i]));
         }
