@@ -3,20 +3,20 @@
 #include <ostream>
 #include <string>
 
-#include "preview/preview_sink.h"
+#include "tspl/sink.h"
 
 namespace preview {
 
 /// Writes findings, one per line, and counts the complaints.
-class FindingsListing : public PreviewSink {
+class FindingsListing : public tspl::Sink {
 public:
     /// `source` is what the lines start with: the name of the stream.
     FindingsListing(std::ostream& out, std::string source, bool withRemarks)
         : out_(out), source_(std::move(source)), withRemarks_(withRemarks) {}
 
-    void onEntry(const Entry&) override {}
-    void onFinding(const Finding& finding) override;
-    void onLabel(const PrintedLabel&) override {}
+    void onEntry(const tspl::Entry&) override {}
+    void onFinding(const tspl::Finding& finding) override;
+    void onLabel(const tspl::PrintedLabel&) override {}
 
     [[nodiscard]] bool hasComplaints() const { return complaints_ > 0; }
 

@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "preview/text.h"
+#include "tspl/text.h"
 
 namespace preview {
 namespace {
@@ -10,7 +10,7 @@ namespace {
 // Members stay in the order in which they are written here.
 using Json = nlohmann::ordered_json;
 
-Json jsonOf(const BitmapSummary& bitmap) {
+Json jsonOf(const tspl::BitmapSummary& bitmap) {
     return {{"width", bitmap.width},
             {"height", bitmap.height},
             {"expectedBytes", bitmap.expectedBytes},
@@ -22,20 +22,20 @@ Json jsonOf(const BitmapSummary& bitmap) {
 Json jsonOf(const std::vector<std::string>& arguments) {
     Json list = Json::array();
     for (const std::string& argument : arguments) {
-        list.push_back(printable(argument));
+        list.push_back(tspl::printable(argument));
     }
     return list;
 }
 
 }  // namespace
 
-void JsonListing::onEntry(const Entry& entry) {
+void JsonListing::onEntry(const tspl::Entry& entry) {
     Json line = {{"type", entry.name.empty() ? "other" : "command"}, {"offset", entry.offset}};
     if (!entry.name.empty()) {
         line["command"] = entry.name;
         line["arguments"] = jsonOf(entry.arguments);
     }
-    line["text"] = printable(entry.text);
+    line["text"] = tspl::printable(entry.text);
     if (entry.bitmap) {
         line["bitmap"] = jsonOf(*entry.bitmap);
     }
@@ -45,15 +45,15 @@ void JsonListing::onEntry(const Entry& entry) {
     out_ << line << '\n';
 }
 
-void JsonListing::onFinding(const Finding& finding) {
-    const bool complaint = finding.kind == Finding::Kind::Complaint;
+void JsonListing::onFinding(const tspl::Finding& finding) {
+    const bool complaint = finding.kind == tspl::Finding::Kind::Complaint;
     const Json line = {{"type", complaint ? "complaint" : "remark"},
                        {"offset", finding.offset},
                        {"text", finding.text}};
     out_ << line << '\n';
 }
 
-void JsonListing::onLabel(const PrintedLabel& label) {
+void JsonListing::onLabel(const tspl::PrintedLabel& label) {
     const Json line = {{"type", "label"},
                        {"number", label.number},
                        {"width", label.picture.width()},

@@ -4,7 +4,7 @@
 #include <string>
 #include <variant>
 
-#include "preview/printer_model.h"
+#include "tspl/printer_model.h"
 
 namespace preview {
 
@@ -23,7 +23,7 @@ struct Options {
     /// Start of the pictures' names; none when no pictures are wanted.
     std::optional<std::string> pictures;
     Listing listing = Listing::None;
-    PrinterOptions printer;
+    tspl::PrinterOptions printer;
 
     [[nodiscard]] bool readsStandardInput() const { return input == "-"; }
 };

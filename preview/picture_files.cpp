@@ -8,9 +8,9 @@
 namespace preview {
 namespace {
 
-std::string describe(const PrintedLabel& label) {
+std::string describe(const tspl::PrintedLabel& label) {
     constexpr double percent = 100;
-    const LabelPicture& picture = label.picture;
+    const tspl::LabelPicture& picture = label.picture;
     const double dots =
         static_cast<double>(picture.width()) * static_cast<double>(picture.height());
     std::ostringstream text;
@@ -26,7 +26,7 @@ std::string describe(const PrintedLabel& label) {
 
 }  // namespace
 
-void PictureFiles::onLabel(const PrintedLabel& label) {
+void PictureFiles::onLabel(const tspl::PrintedLabel& label) {
     const std::string name = prefix_ + "-" + std::to_string(label.number) + ".png";
     const std::string error = writePng(name, label.picture);
     if (!error.empty()) {

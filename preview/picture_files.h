@@ -3,20 +3,20 @@
 #include <ostream>
 #include <string>
 
-#include "preview/preview_sink.h"
+#include "tspl/sink.h"
 
 namespace preview {
 
 /// Writes a PNG file for every label: PREFIX-1.png, PREFIX-2.png and so on.
-class PictureFiles : public PreviewSink {
+class PictureFiles : public tspl::Sink {
 public:
     /// `out` gets a line about each picture unless it is null, `err` the failures.
     PictureFiles(std::string prefix, std::ostream* out, std::ostream& err)
         : prefix_(std::move(prefix)), out_(out), err_(err) {}
 
-    void onEntry(const Entry&) override {}
-    void onFinding(const Finding&) override {}
-    void onLabel(const PrintedLabel& label) override;
+    void onEntry(const tspl::Entry&) override {}
+    void onFinding(const tspl::Finding&) override {}
+    void onLabel(const tspl::PrintedLabel& label) override;
     void onLostLabel() override { failed_ = true; }
 
     [[nodiscard]] bool hasFailed() const { return failed_; }

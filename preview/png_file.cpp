@@ -31,12 +31,12 @@ public:
     [[nodiscard]] bool isReady() const { return info_ != nullptr; }
     [[nodiscard]] const std::string& error() const { return error_; }
 
-    bool write(std::FILE* file, const LabelPicture& picture, std::vector<png_byte>& row);
+    bool write(std::FILE* file, const tspl::LabelPicture& picture, std::vector<png_byte>& row);
 
 private:
     static void onError(png_structp png, png_const_charp message);
     static void onWarning(png_structp png, png_const_charp message);
-    void writeHeader(const LabelPicture& picture);
+    void writeHeader(const tspl::LabelPicture& picture);
 
     std::string error_;
     png_structp png_;
@@ -51,7 +51,7 @@ void PngWriter::onError(png_structp png, png_const_charp message) {
 
 void PngWriter::onWarning(png_structp, png_const_charp) {}
 
-void PngWriter::writeHeader(const LabelPicture& picture) {
+void PngWriter::writeHeader(const tspl::LabelPicture& picture) {
     constexpr double metresPerInch = 0.0254;
     const auto dotsPerMetre = static_cast<png_uint_32>(std::lround(picture.dpi() / metresPerInch));
     // Labels are longer than the million rows that libpng takes for a sane picture.
@@ -63,7 +63,7 @@ void PngWriter::writeHeader(const LabelPicture& picture) {
     png_write_info(png_, info_);
 }
 
-void packRow(const LabelPicture& picture, std::int64_t y, std::vector<png_byte>& row) {
+void packRow(const tspl::LabelPicture& picture, std::int64_t y, std::vector<png_byte>& row) {
     std::fill(row.begin(), row.end(), png_byte{0xFF});
     for (std::int64_t x = 0; x < picture.width(); ++x) {
         if (picture.burns(x, y)) {
@@ -75,7 +75,8 @@ void packRow(const LabelPicture& picture, std::int64_t y, std::vector<png_byte>&
 
 // Between setjmp and a jump back nothing may be built that has a destructor: the row belongs to
 // the caller.
-bool PngWriter::write(std::FILE* file, const LabelPicture& picture, std::vector<png_byte>& row) {
+bool PngWriter::write(std::FILE* file, const tspl::LabelPicture& picture,
+                      std::vector<png_byte>& row) {
     if (setjmp(png_jmpbuf(png_)) != 0) {  // NOLINT(cert-err52-cpp): libpng has no other way
         return false;
     }
@@ -89,7 +90,7 @@ bool PngWriter::write(std::FILE* file, const LabelPicture& picture, std::vector<
     return true;
 }
 
-std::string writeTo(std::FILE* file, const LabelPicture& picture) {
+std::string writeTo(std::FILE* file, const tspl::LabelPicture& picture) {
     std::vector<png_byte> row(static_cast<std::size_t>((picture.width() + 7) / 8));
     PngWriter writer;
     if (!writer.isReady()) {
@@ -102,7 +103,7 @@ std::string writeTo(std::FILE* file, const LabelPicture& picture) {
     return std::ferror(file) != 0 && errno != 0 ? std::strerror(errno) : writer.error();
 }
 
-std::string writeAndClose(File file, const LabelPicture& picture) {
+std::string writeAndClose(File file, const tspl::LabelPicture& picture) {
     errno = 0;
     std::string error = writeTo(file.get(), picture);
     if (std::fclose(file.release()) != 0 && error.empty()) {
@@ -113,7 +114,7 @@ std::string writeAndClose(File file, const LabelPicture& picture) {
 
 }  // namespace
 
-std::string writePng(const std::string& name, const LabelPicture& picture) {
+std::string writePng(const std::string& name, const tspl::LabelPicture& picture) {
     // Under another name first: a write that fails or is interrupted leaves a picture of that name
     // as it was.
     const std::string unfinished = name + ".part";

@@ -13,11 +13,11 @@
 #include "preview/input_stream.h"
 #include "preview/json_listing.h"
 #include "preview/picture_files.h"
-#include "preview/printer_model.h"
 #include "preview/progress_line.h"
 #include "preview/sink_list.h"
-#include "preview/stream_parser.h"
 #include "preview/text_listing.h"
+#include "tspl/printer_model.h"
+#include "tspl/stream_parser.h"
 
 namespace preview {
 namespace {
@@ -26,7 +26,7 @@ std::string sourceName(const Options& options) {
     return options.readsStandardInput() ? "standard input" : options.input;
 }
 
-std::unique_ptr<PreviewSink> makeListing(Listing listing) {
+std::unique_ptr<tspl::Sink> makeListing(Listing listing) {
     if (listing == Listing::Text) {
         return std::make_unique<TextListing>(std::cout);
     }
@@ -42,10 +42,10 @@ FindingsListing makeFindings(const Options& options) {
     return {isCheck ? std::cout : std::cerr, sourceName(options), !isCheck};
 }
 
-std::string readStream(const InputStream& input, PreviewSink& sink, ProgressLine& progress,
-                       const PrinterOptions& printer) {
-    PrinterModel model(sink, printer);
-    StreamParser parser(model);
+std::string readStream(const InputStream& input, tspl::Sink& sink, ProgressLine& progress,
+                       const tspl::PrinterOptions& printer) {
+    tspl::PrinterModel model(sink, printer);
+    tspl::StreamParser parser(model);
     std::string error = input.readAll([&](std::span<const std::uint8_t> piece) {
         parser.feed(piece);
         progress.show(parser.offset());

@@ -32,7 +32,7 @@ void ProgressLine::hide() {
     }
 }
 
-void ProgressLine::onLabel(const PrintedLabel&) {
+void ProgressLine::onLabel(const tspl::PrintedLabel&) {
     hide();
     ++labels_;
 }

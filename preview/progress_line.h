@@ -4,13 +4,13 @@
 #include <cstdint>
 #include <ostream>
 
-#include "preview/preview_sink.h"
+#include "tspl/sink.h"
 
 namespace preview {
 
 /// A line that tells how far a long stream has been read. First in a list of sinks, it makes way
 /// for what the others write.
-class ProgressLine : public PreviewSink {
+class ProgressLine : public tspl::Sink {
 public:
     /// Writes nothing when not `enabled`. `streamBytes` is 0 for a stream of unknown length.
     ProgressLine(std::ostream& out, bool enabled, std::uint64_t streamBytes)
@@ -23,9 +23,9 @@ public:
     /// Removes the line from the screen.
     void hide();
 
-    void onEntry(const Entry&) override { hide(); }
-    void onFinding(const Finding&) override { hide(); }
-    void onLabel(const PrintedLabel&) override;
+    void onEntry(const tspl::Entry&) override { hide(); }
+    void onFinding(const tspl::Finding&) override { hide(); }
+    void onLabel(const tspl::PrintedLabel&) override;
 
 private:
     using Clock = std::chrono::steady_clock;

@@ -2,26 +2,26 @@
 
 namespace preview {
 
-void SinkList::onEntry(const Entry& entry) {
-    for (PreviewSink* sink : sinks_) {
+void SinkList::onEntry(const tspl::Entry& entry) {
+    for (tspl::Sink* sink : sinks_) {
         sink->onEntry(entry);
     }
 }
 
-void SinkList::onFinding(const Finding& finding) {
-    for (PreviewSink* sink : sinks_) {
+void SinkList::onFinding(const tspl::Finding& finding) {
+    for (tspl::Sink* sink : sinks_) {
         sink->onFinding(finding);
     }
 }
 
-void SinkList::onLabel(const PrintedLabel& label) {
-    for (PreviewSink* sink : sinks_) {
+void SinkList::onLabel(const tspl::PrintedLabel& label) {
+    for (tspl::Sink* sink : sinks_) {
         sink->onLabel(label);
     }
 }
 
 void SinkList::onLostLabel() {
-    for (PreviewSink* sink : sinks_) {
+    for (tspl::Sink* sink : sinks_) {
         sink->onLostLabel();
     }
 }

@@ -2,23 +2,23 @@
 
 #include <vector>
 
-#include "preview/preview_sink.h"
+#include "tspl/sink.h"
 
 namespace preview {
 
 /// Passes everything on to several sinks, in the order in which they were added.
-class SinkList : public PreviewSink {
+class SinkList : public tspl::Sink {
 public:
     /// `sink` must outlive the list.
-    void add(PreviewSink& sink) { sinks_.push_back(&sink); }
+    void add(tspl::Sink& sink) { sinks_.push_back(&sink); }
 
-    void onEntry(const Entry& entry) override;
-    void onFinding(const Finding& finding) override;
-    void onLabel(const PrintedLabel& label) override;
+    void onEntry(const tspl::Entry& entry) override;
+    void onFinding(const tspl::Finding& finding) override;
+    void onLabel(const tspl::PrintedLabel& label) override;
     void onLostLabel() override;
 
 private:
-    std::vector<PreviewSink*> sinks_;
+    std::vector<tspl::Sink*> sinks_;
 };
 
 }  // namespace preview

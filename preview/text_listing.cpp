@@ -3,7 +3,7 @@
 #include <iomanip>
 #include <sstream>
 
-#include "preview/text.h"
+#include "tspl/text.h"
 
 namespace preview {
 namespace {
@@ -12,7 +12,7 @@ constexpr int offsetColumns = 10;
 
 }  // namespace
 
-std::string describe(const BitmapSummary& bitmap) {
+std::string describe(const tspl::BitmapSummary& bitmap) {
     constexpr double percent = 100;
     std::ostringstream text;
     text << bitmap.width << " x " << bitmap.height << " dots, " << bitmap.receivedBytes;
@@ -24,8 +24,8 @@ std::string describe(const BitmapSummary& bitmap) {
     return text.str();
 }
 
-void TextListing::onEntry(const Entry& entry) {
-    out_ << std::setw(offsetColumns) << entry.offset << "  " << printable(entry.text);
+void TextListing::onEntry(const tspl::Entry& entry) {
+    out_ << std::setw(offsetColumns) << entry.offset << "  " << tspl::printable(entry.text);
     if (entry.bitmap) {
         out_ << "  (" << describe(*entry.bitmap) << ')';
     }

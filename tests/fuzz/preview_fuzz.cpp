@@ -5,19 +5,19 @@
 
 #include "preview/findings_listing.h"
 #include "preview/json_listing.h"
-#include "preview/printer_model.h"
 #include "preview/sink_list.h"
-#include "preview/stream_parser.h"
 #include "preview/text_listing.h"
 #include "tests/fuzz/fuzz_target.h"
+#include "tspl/printer_model.h"
+#include "tspl/stream_parser.h"
 
 // The previewer on any stream. The first two bytes of the input are the size of the pieces in
 // which the stream comes and the printer's options; the rest is the stream.
 
 namespace {
 
-using preview::PrinterModel;
-using preview::PrinterOptions;
+using tspl::PrinterModel;
+using tspl::PrinterOptions;
 
 PrinterOptions optionsOf(std::uint8_t bits) {
     PrinterOptions options;
@@ -42,7 +42,7 @@ std::string previewed(std::span<const std::uint8_t> stream, std::size_t pieceByt
     sinks.add(json);
     sinks.add(findings);
     PrinterModel model(sinks, options);
-    preview::StreamParser parser(model);
+    tspl::StreamParser parser(model);
     while (!stream.empty()) {
         const auto piece = stream.first(std::min(pieceBytes, stream.size()));
         parser.feed(piece);

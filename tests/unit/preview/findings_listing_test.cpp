@@ -3,7 +3,7 @@
 
 #include <sstream>
 
-#include "tests/unit/preview/test_support.h"
+#include "tests/unit/tspl/test_support.h"
 
 namespace preview {
 namespace {
@@ -13,7 +13,7 @@ protected:
     std::string listed(std::string_view stream, bool withRemarks) {
         std::ostringstream out;
         FindingsListing listing(out, "label.tspl", withRemarks);
-        obeyStream(stream, listing);
+        tspl::obeyStream(stream, listing);
         hasComplaints_ = listing.hasComplaints();
         return out.str();
     }

@@ -4,7 +4,7 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "tests/unit/preview/test_support.h"
+#include "tests/unit/tspl/test_support.h"
 
 namespace preview {
 namespace {
@@ -14,7 +14,7 @@ using nlohmann::json;
 std::string listed(std::string_view stream) {
     std::ostringstream out;
     JsonListing listing(out);
-    obeyStream(stream, listing);
+    tspl::obeyStream(stream, listing);
     return out.str();
 }
 
@@ -105,7 +105,7 @@ TEST(JsonListing, HoldsTheLargestNumbers) {
     EXPECT_EQ(objects.at(1)["bitmap"]["width"], 17179869176);
     std::ostringstream out;
     JsonListing listing(out);
-    listing.onFinding({Finding::Kind::Remark, UINT64_MAX, ""});
+    listing.onFinding({tspl::Finding::Kind::Remark, UINT64_MAX, ""});
     EXPECT_EQ(json::parse(out.str())["offset"], UINT64_MAX);
 }
 

@@ -1,7 +1,7 @@
 // A list of sinks.
 #include "preview/sink_list.h"
 
-#include "tests/unit/preview/test_support.h"
+#include "tests/unit/tspl/test_support.h"
 
 namespace preview {
 namespace {
@@ -9,12 +9,12 @@ namespace {
 constexpr auto sStream = "SIZE 8 dot,1 dot\nWHAT\nPRINT 1\nSIZE 0,0\nPRINT 1\n";
 
 // Writes its name for everything that it takes.
-class NamedSink : public PreviewSink {
+class NamedSink : public tspl::Sink {
 public:
     NamedSink(std::string& written, char name) : written_(written), name_(name) {}
-    void onEntry(const Entry&) override { written_ += name_; }
-    void onFinding(const Finding&) override { written_ += name_; }
-    void onLabel(const PrintedLabel&) override { written_ += name_; }
+    void onEntry(const tspl::Entry&) override { written_ += name_; }
+    void onFinding(const tspl::Finding&) override { written_ += name_; }
+    void onLabel(const tspl::PrintedLabel&) override { written_ += name_; }
     void onLostLabel() override { written_ += name_; }
 
 private:
@@ -23,18 +23,18 @@ private:
 };
 
 TEST(SinkList, PassesEverythingOnAsItCame) {
-    RecordingSink direct;
-    RecordingSink listed;
+    tspl::RecordingSink direct;
+    tspl::RecordingSink listed;
     SinkList sinks;
     sinks.add(listed);
-    obeyStream(sStream, direct);
-    obeyStream(sStream, sinks);
+    tspl::obeyStream(sStream, direct);
+    tspl::obeyStream(sStream, sinks);
     EXPECT_EQ(listed.order, direct.order);
     EXPECT_EQ(listed.findings, direct.findings);
     ASSERT_EQ(listed.entries.size(), 5U);
     EXPECT_EQ(listed.entries[1].text, "WHAT");
     ASSERT_EQ(listed.labels.size(), 1U);
-    EXPECT_EQ(listed.labels.front().rows, Texts{"........"});
+    EXPECT_EQ(listed.labels.front().rows, tspl::Texts{"........"});
 }
 
 // Five entries, two findings, one label and one that is lost.
@@ -45,13 +45,13 @@ TEST(SinkList, PassesEachThingOnInTheOrderOfItsSinks) {
     SinkList sinks;
     sinks.add(first);
     sinks.add(second);
-    obeyStream(sStream, sinks);
+    tspl::obeyStream(sStream, sinks);
     EXPECT_EQ(written, "121212121212121212");
 }
 
 TEST(SinkList, MayBeEmpty) {
     SinkList sinks;
-    EXPECT_NO_THROW(obeyStream(sStream, sinks));
+    EXPECT_NO_THROW(tspl::obeyStream(sStream, sinks));
 }
 
 }  // namespace

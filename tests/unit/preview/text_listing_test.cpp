@@ -3,7 +3,7 @@
 
 #include <sstream>
 
-#include "tests/unit/preview/test_support.h"
+#include "tests/unit/tspl/test_support.h"
 
 namespace preview {
 namespace {
@@ -11,7 +11,7 @@ namespace {
 std::string listed(std::string_view stream) {
     std::ostringstream out;
     TextListing listing(out);
-    obeyStream(stream, listing);
+    tspl::obeyStream(stream, listing);
     return out.str();
 }
 
@@ -51,9 +51,9 @@ TEST(TextListing, TakesOffsetsOfAnyLength) {
 TEST(TextListing, HasNoLinesForFindingsAndLabels) {
     std::ostringstream out;
     TextListing listing(out);
-    const DotCanvas canvas(1, 1);
-    listing.onFinding({Finding::Kind::Complaint, 0, "wrong"});
-    listing.onLabel({1, 1, 1, LabelPicture(canvas, 1, 1, 203, {})});
+    const tspl::DotCanvas canvas(1, 1);
+    listing.onFinding({tspl::Finding::Kind::Complaint, 0, "wrong"});
+    listing.onLabel({1, 1, 1, tspl::LabelPicture(canvas, 1, 1, 203, {})});
     EXPECT_EQ(out.str(), "");
 }
 

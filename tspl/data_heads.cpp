@@ -1,0 +1,43 @@
+#include "tspl/data_heads.h"
+
+#include <array>
+
+#include "tspl/text.h"
+
+namespace tspl {
+
+std::optional<BitmapHead> parseBitmapHead(const Command& command) {
+    constexpr std::size_t numbers = 5;
+    if (command.name != "BITMAP" || command.arguments.size() < numbers) {
+        return std::nullopt;
+    }
+    std::array<std::int32_t, numbers> values{};
+    for (std::size_t i = 0; i < numbers; ++i) {
+        const auto value = parseInteger(command.arguments[i]);
+        if (!value) {
+            return std::nullopt;
+        }
+        values[i] = *value;
+    }
+    const auto [x, y, rowBytes, rows, mode] = values;
+    if (rowBytes < 0 || rows < 0) {
+        return std::nullopt;
+    }
+    return BitmapHead{command.offset, x, y, rowBytes, rows, mode};
+}
+
+std::optional<std::uint64_t> parseDownloadHead(const Command& command) {
+    // The last argument is the empty one behind the comma that ends the head.
+    const auto& arguments = command.arguments;
+    if (command.name != "DOWNLOAD" || arguments.size() < 3 || !arguments.back().empty() ||
+        !arguments[arguments.size() - 3].starts_with('"')) {
+        return std::nullopt;
+    }
+    const auto bytes = parseInteger(arguments[arguments.size() - 2]);
+    if (!bytes || *bytes < 0) {
+        return std::nullopt;
+    }
+    return static_cast<std::uint64_t>(*bytes);
+}
+
+}  // namespace tspl

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "tspl/command.h"
+
+namespace tspl {
+
+/// Number of commas in the head of a BITMAP.
+inline constexpr std::size_t bitmapCommas = 5;
+
+/// Reads "BITMAP x,y,width,height,mode," with a width in bytes and a height in dots. Nothing when
+/// a number is missing, does not fit 32 bits, or the width or the height is negative.
+std::optional<BitmapHead> parseBitmapHead(const Command& command);
+
+/// Reads the number of bytes that follow 'DOWNLOAD "name",bytes,', with or without a memory's
+/// letter before the name. Nothing for any other command.
+std::optional<std::uint64_t> parseDownloadHead(const Command& command);
+
+}  // namespace tspl

@@ -1,0 +1,121 @@
+#include "tspl/label.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tspl {
+namespace {
+
+constexpr int highestDpi = 600;
+constexpr int usualDpi = 203;
+constexpr std::int64_t dotsPerByte = 8;
+// A label of unknown width: more dots than any print head has.
+constexpr std::int64_t unknownWidth = 16384;
+
+bool isSame(const Length& a, const Length& b) {
+    return a.value == b.value && a.unit == b.unit && a.precision == b.precision;
+}
+
+// The most dots that the length can be meant to have, and one for the edge. What is called 203 dpi
+// is 8 dots to the millimetre, a thousandth more.
+double mostDotsOf(const Length& length, int dpi) {
+    const double metric = length.unit == Unit::Millimetre ? 1.001 : 1;
+    return std::ceil(metric * lengthInDots(length, dpi) + precisionInDots(length, dpi)) + 1;
+}
+
+// A page that is no whole number of bytes wide has a bitmap that ends some dots past the edge.
+// Where the decimals of the width are coarser than a dot, no column of the page is cut off.
+std::int64_t wholeColumns(const Length& length, int dpi, std::int64_t end) {
+    const std::int64_t columns = wholeDots(length, dpi, end);
+    const auto most = static_cast<std::int64_t>(
+        std::floor(lengthInDots(length, dpi) + precisionInDots(length, dpi)));
+    const bool endsInItsLastByte = end > columns && end < most + dotsPerByte;
+    return endsInItsLastByte ? std::clamp(most, columns, end) : columns;
+}
+
+DotCanvas canvasOfUnknownSize(std::uint64_t mostDots) {
+    return {unknownWidth, static_cast<std::int64_t>(mostDots / unknownWidth)};
+}
+
+}  // namespace
+
+Label::Label(std::optional<int> dpi, std::uint64_t mostDots)
+    : givenDpi_(dpi), mostDots_(mostDots), canvas_(canvasOfUnknownSize(mostDots)) {}
+
+bool Label::setSize(const LabelSize& size) {
+    if (size_ && isSame(size_->width, size.width) && isSame(size_->height, size.height)) {
+        return !refused_;
+    }
+    size_ = size;
+    refused_ = isTooLarge(size);
+    canvas_ = DotCanvas(0, 0);
+    if (!refused_) {
+        const int dpi = givenDpi_.value_or(highestDpi);
+        canvas_ = DotCanvas(static_cast<std::int64_t>(mostDotsOf(size.width, dpi)),
+                            static_cast<std::int64_t>(mostDotsOf(size.height, dpi)));
+    }
+    clear();
+    return !refused_;
+}
+
+bool Label::isTooLarge(const LabelSize& size) const {
+    const int dpi = givenDpi_.value_or(highestDpi);
+    return mostDotsOf(size.width, dpi) * mostDotsOf(size.height, dpi) >
+           static_cast<double>(mostDots_);
+}
+
+void Label::clear() {
+    canvas_.clear();
+    widest_ = {};
+    highest_ = {};
+}
+
+void Label::noteBitmap(const BitmapHead& head, std::int64_t x, std::int64_t y) {
+    if (head.dataBytes() == 0) {
+        return;
+    }
+    const std::int64_t right = x + head.rowBytes * dotsPerByte;
+    const std::int64_t bottom = y + head.rows;
+    if (right > widest_.end) {
+        widest_ = {head.offset, right};
+    }
+    if (bottom > highest_.end) {
+        highest_ = {head.offset, bottom};
+    }
+}
+
+LabelDots Label::dots() {
+    if (refused_) {
+        return {};
+    }
+    const int dpi = resolution();
+    if (size_) {
+        return {wholeColumns(size_->width, dpi, widest_.end),
+                wholeDots(size_->height, dpi, highest_.end), dpi};
+    }
+    const Area burnt = canvas_.burntArea();
+    return {std::clamp(widest_.end, burnt.x + burnt.width, canvas_.width()),
+            std::clamp(highest_.end, burnt.y + burnt.height, canvas_.height()), dpi};
+}
+
+int Label::resolution() {
+    if (givenDpi_) {
+        return *givenDpi_;
+    }
+    if (size_ && widest_.end > 0) {
+        const auto dpi = nearestDpi(size_->width, widest_.end);
+        lastDpi_ = dpi ? dpi : lastDpi_;
+    }
+    return lastDpi_.value_or(usualDpi);
+}
+
+std::optional<Label::Overhang> Label::widestOverhang(const LabelDots& dots) const {
+    const std::int64_t bytes = (dots.width + dotsPerByte - 1) / dotsPerByte;
+    return widest_.end > bytes * dotsPerByte ? std::optional(widest_) : std::nullopt;
+}
+
+std::optional<Label::Overhang> Label::highestOverhang(const LabelDots& dots) const {
+    return highest_.end > dots.height ? std::optional(highest_) : std::nullopt;
+}
+
+}  // namespace tspl

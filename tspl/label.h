@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "tspl/command.h"
+#include "tspl/dot_canvas.h"
+#include "tspl/label_size.h"
+
+namespace tspl {
+
+/// Size of a label in dots at its resolution.
+struct LabelDots {
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+    int dpi = 0;
+};
+
+/// The label that is being drawn: its size, as far as it is known, and its dots.
+///
+/// Commands draw in dots, but the label's edges are known in dots only when its resolution is,
+/// which the width of its bitmaps tells. So the canvas is as large as the label has dots at 600
+/// dpi, and is cut when the label is printed.
+class Label {
+public:
+    /// `dpi` is the printer's resolution when it is known. A label of more than `mostDots` at
+    /// that resolution, else at 600 dpi, is refused.
+    Label(std::optional<int> dpi, std::uint64_t mostDots);
+
+    /// Takes a new size; nothing remains of what is drawn, unless the size is the one before.
+    /// False when the label is refused: nothing is drawn on it.
+    [[nodiscard]] bool setSize(const LabelSize& size);
+
+    /// Makes the label bare.
+    void clear();
+
+    [[nodiscard]] DotCanvas& canvas() { return canvas_; }
+    [[nodiscard]] const DotCanvas& canvas() const { return canvas_; }
+
+    /// Takes notice of a bitmap with its upper left corner at (x, y); of one without dots it takes
+    /// none.
+    void noteBitmap(const BitmapHead& head, std::int64_t x, std::int64_t y);
+
+    /// The size of the label as it is printed now. Without a SIZE it ends where the last dot
+    /// does. 0 dots wide or high when the label was refused or no size can be told.
+    [[nodiscard]] LabelDots dots();
+
+    /// A bitmap that reaches over the edge, and the dot it ends before.
+    struct Overhang {
+        std::uint64_t offset = 0;  ///< of its command
+        std::int64_t end = 0;
+    };
+    /// The bitmap that reaches farthest over the right edge of a label of this size; the last
+    /// seven dots of its rows may fill a byte. Nothing when all bitmaps fit.
+    [[nodiscard]] std::optional<Overhang> widestOverhang(const LabelDots& dots) const;
+    /// The same for the lower edge, to the dot.
+    [[nodiscard]] std::optional<Overhang> highestOverhang(const LabelDots& dots) const;
+
+private:
+    [[nodiscard]] bool isTooLarge(const LabelSize& size) const;
+    [[nodiscard]] int resolution();
+
+    std::optional<int> givenDpi_;
+    std::optional<int> lastDpi_;
+    std::uint64_t mostDots_;
+    std::optional<LabelSize> size_;
+    DotCanvas canvas_;
+    Overhang widest_;
+    Overhang highest_;
+    bool refused_ = false;
+};
+
+}  // namespace tspl

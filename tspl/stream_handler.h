@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+#include "tspl/command.h"
+
+namespace tspl {
+
+/// Takes what a stream consists of, in the stream's order.
+class StreamHandler {
+public:
+    StreamHandler() = default;
+    StreamHandler(const StreamHandler&) = delete;
+    StreamHandler& operator=(const StreamHandler&) = delete;
+    virtual ~StreamHandler() = default;
+
+    /// `count` lines without a command, the first of which starts at `offset`.
+    virtual void onBlankLines(std::uint64_t offset, std::uint64_t count) = 0;
+
+    /// A command line, known or not.
+    virtual void onCommand(const Command& command) = 0;
+
+    /// A BITMAP whose head can be read. Its data follow.
+    virtual void onBitmap(const BitmapHead& head) = 0;
+
+    /// The next data of the bitmap under way; `position` counts its bytes from 0.
+    virtual void onBitmapData(std::uint64_t position, std::span<const std::uint8_t> data) = 0;
+
+    /// The end of the bitmap under way; `received` is less than announced when the stream ended.
+    virtual void onBitmapEnd(std::uint64_t received) = 0;
+
+    /// The end of a file that a DOWNLOAD stores in the printer, when the stream ended before it.
+    virtual void onDownloadCutShort(std::uint64_t offset, std::uint64_t expected,
+                                    std::uint64_t received) = 0;
+
+    /// A line that is longer than any command, left out.
+    virtual void onLongLine(std::uint64_t offset) = 0;
+
+    /// The end of the stream.
+    virtual void onEnd() {}
+};
+
+}  // namespace tspl
