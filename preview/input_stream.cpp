@@ -29,14 +29,15 @@ std::uint64_t InputStream::bytes() const {
     return static_cast<std::uint64_t>(status.st_size);
 }
 
-std::string InputStream::readAll(
-    const std::function<void(std::span<const std::uint8_t>)>& take) const {
+std::string InputStream::readAll(const Take& take) const {
     constexpr std::size_t pieceBytes = 65536;
     std::vector<std::uint8_t> piece(pieceBytes);
     for (;;) {
         const ssize_t count = read(descriptor_, piece.data(), piece.size());
         if (count > 0) {
-            take(std::span(piece).first(static_cast<std::size_t>(count)));
+            if (!take(std::span(piece).first(static_cast<std::size_t>(count)))) {
+                return "";
+            }
         } else if (count == 0) {
             return "";
         } else if (errno != EINTR) {

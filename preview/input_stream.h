@@ -22,8 +22,11 @@ public:
     /// Length of a file in bytes; 0 for what has none.
     [[nodiscard]] std::uint64_t bytes() const;
 
-    /// Hands the whole stream on in pieces. Returns why reading failed; empty at the end.
-    std::string readAll(const std::function<void(std::span<const std::uint8_t>)>& take) const;
+    /// Takes a piece of a stream; false when no more is wanted.
+    using Take = std::function<bool(std::span<const std::uint8_t>)>;
+
+    /// Hands the stream on in pieces. Returns why reading failed; empty at the end.
+    std::string readAll(const Take& take) const;
 
 private:
     int descriptor_ = 0;

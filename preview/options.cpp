@@ -1,9 +1,13 @@
 #include "preview/options.h"
 
 #include <CLI/CLI.hpp>
+#include <cstdlib>
 #include <filesystem>
+#include <iostream>
+#include <sstream>
 
 #include "preview/version.h"
+#include "tspl/text.h"
 
 namespace preview {
 namespace {
@@ -20,11 +24,39 @@ const std::string sFooter =
     "Exit status: 0 when all went well, 1 when --check has something to complain of or a file\n"
     "cannot be read or written, 2 for a wrong command line.";
 
+// What is wrong with a command line quotes it, and so may hold anything.
+std::string printableLines(const std::string& text) {
+    std::istringstream lines(text);
+    std::string result;
+    for (std::string line; std::getline(lines, line);) {
+        result += tspl::printable(line) + '\n';
+    }
+    return result;
+}
+
+int complain(const CLI::App& app, const CLI::ParseError& error) {
+    std::ostringstream text;
+    app.exit(error, text, text);
+    std::cerr << printableLines(text.str());
+    return usageError;
+}
+
+// Help and version.
+int inform(const CLI::App& app, const CLI::ParseError& end) {
+    app.exit(end);
+    std::cout.flush();
+    return std::cout.good() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
 // The input's name without folders and ending.
 std::string prefixOf(const Options& options) {
     const std::string stem = std::filesystem::path(options.input).stem().string();
     return options.readsStandardInput() || stem.empty() ? "label" : stem;
 }
+
+const CLI::Validator sNotEmpty(
+    [](const std::string& text) { return std::string(text.empty() ? "must not be empty" : ""); },
+    "");
 
 struct RawOptions {
     Options options;
@@ -43,7 +75,8 @@ void describe(CLI::App& app, RawOptions& raw) {
                    "The TSPL stream; standard input without it or for -");
     app.add_option("-o,--output", raw.prefix,
                    "Write the pictures as PREFIX-1.png, PREFIX-2.png and so on")
-        ->type_name("PREFIX");
+        ->type_name("PREFIX")
+        ->check(sNotEmpty);
     app.add_option("--dpi", raw.dpi,
                    "Resolution of the printer; else worked out from SIZE and the bitmaps")
         ->type_name("DPI")
@@ -96,7 +129,7 @@ std::variant<Options, int> parseOptions(int argc, char* argv[]) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& end) {
-        return app.exit(end) == 0 ? 0 : usageError;
+        return end.get_exit_code() == 0 ? inform(app, end) : complain(app, end);
     }
     return finished(raw, app.count("--output") > 0);
 }

@@ -29,7 +29,7 @@ struct Options {
 };
 
 /// Reads the command line. Help and version go to standard output, errors to standard error; the
-/// result is then the exit status, 0 or 2.
+/// result is then the exit status: 0, 2, or 1 when the help cannot be written.
 std::variant<Options, int> parseOptions(int argc, char* argv[]);
 
 }  // namespace preview

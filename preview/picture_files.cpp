@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "preview/png_file.h"
+#include "tspl/text.h"
 
 namespace preview {
 namespace {
@@ -30,10 +31,10 @@ void PictureFiles::onLabel(const tspl::PrintedLabel& label) {
     const std::string name = prefix_ + "-" + std::to_string(label.number) + ".png";
     const std::string error = writePng(name, label.picture);
     if (!error.empty()) {
-        err_ << "tsplpreview: " << name << ": " << error << '\n';
+        err_ << "tsplpreview: " << tspl::printable(name) << ": " << error << '\n';
         failed_ = true;
     } else if (out_ != nullptr) {
-        *out_ << name << ": " << describe(label) << '\n';
+        *out_ << tspl::printable(name) << ": " << describe(label) << '\n';
     }
 }
 

@@ -7,16 +7,12 @@
 #include <csetjmp>
 #include <cstdio>
 #include <cstring>
-#include <memory>
 #include <vector>
+
+#include "preview/unfinished_file.h"
 
 namespace preview {
 namespace {
-
-struct FileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, FileCloser>;
 
 // libpng's two records, and the message of the error that ended its work.
 class PngWriter {
@@ -93,6 +89,7 @@ bool PngWriter::write(std::FILE* file, const tspl::LabelPicture& picture,
 std::string writeTo(std::FILE* file, const tspl::LabelPicture& picture) {
     std::vector<png_byte> row(static_cast<std::size_t>((picture.width() + 7) / 8));
     PngWriter writer;
+    errno = 0;
     if (!writer.isReady()) {
         return "not enough memory";
     }
@@ -103,33 +100,15 @@ std::string writeTo(std::FILE* file, const tspl::LabelPicture& picture) {
     return std::ferror(file) != 0 && errno != 0 ? std::strerror(errno) : writer.error();
 }
 
-std::string writeAndClose(File file, const tspl::LabelPicture& picture) {
-    errno = 0;
-    std::string error = writeTo(file.get(), picture);
-    if (std::fclose(file.release()) != 0 && error.empty()) {
-        error = std::strerror(errno);
-    }
-    return error;
-}
-
 }  // namespace
 
 std::string writePng(const std::string& name, const tspl::LabelPicture& picture) {
-    // Under another name first: a write that fails or is interrupted leaves a picture of that name
-    // as it was.
-    const std::string unfinished = name + ".part";
-    File file(std::fopen(unfinished.c_str(), "wb"));
-    if (!file) {
-        return std::strerror(errno);
+    UnfinishedFile file(name);
+    std::string error = file.open();
+    if (error.empty()) {
+        error = writeTo(file.file(), picture);
     }
-    std::string error = writeAndClose(std::move(file), picture);
-    if (error.empty() && std::rename(unfinished.c_str(), name.c_str()) != 0) {
-        error = std::strerror(errno);
-    }
-    if (!error.empty()) {
-        std::remove(unfinished.c_str());
-    }
-    return error;
+    return error.empty() ? file.complete() : error;
 }
 
 }  // namespace preview

@@ -176,6 +176,7 @@ TEST(PreviewCommandLine, AWrongCommandLineGivesStatusTwoAndAWordOnHowToGetHelp) 
         {"--dpi", "many"},    {"--dpi", "203.5"},
         {"--dpi", "1000000"}, {"--burn", "twos"},
         {"--burn"},           {"--output"},
+        {"-o", ""},           {"--output="},
         {"--list", "--json"}, {"--check", "--list"},
         {"--json", "--check"}};
     for (const auto& arguments : wrong) {

@@ -15,17 +15,6 @@ void expectFailure(const FilterResult& result, const std::string& message) {
     EXPECT_EQ(result.standardError, message);
 }
 
-// A label whose picture is too large for the buffer of one write.
-std::string largeLabel() {
-    std::string bitmap;
-    unsigned state = 1;
-    for (int i = 0; i < 100 * 799; ++i) {
-        state = state * 1664525 + 1013904223;
-        bitmap += static_cast<char>(state >> 24U);
-    }
-    return "SIZE 800 dot,799 dot\r\nCLS\r\nBITMAP 0,0,100,799,0," + bitmap + "\r\nPRINT 1,1\r\n";
-}
-
 // Lets a run as a stranger count its coverage where it may write, or it complains.
 void keepCountersIn(FilterCall& call, const TemporaryFolder& counters) {
     fs::permissions(counters.path(""), fs::perms::all);
@@ -97,7 +86,8 @@ TEST(PreviewFailure, AFolderOfAPicturesNameStays) {
 }
 
 TEST(PreviewFailure, APictureOnAFullDeviceIsReportedAndNotLeftBehind) {
-    for (const std::string& stream : {smallLabel(letterBitmap), largeLabel()}) {
+    // The second picture is too large for the buffer of one write.
+    for (const std::string& stream : {smallLabel(letterBitmap), noiseLabel(800, 799)}) {
         const TemporaryFolder folder;
         fs::create_symlink("/dev/full", folder.path("label-1.png.part"));
         expectFailure(runPreview(folder, {}, stream),
@@ -130,8 +120,20 @@ TEST(PreviewFailure, AFullStandardOutputGivesStatusOneInEveryMode) {
         const FilterResult result =
             runFilter(shellCall(folder, std::string("\"$PREVIEW\" ") + call + " >/dev/full"));
         EXPECT_EQ(result.status, 1) << call;
-        EXPECT_EQ(result.standardError.find("tsplpreview: standard output: "), 0U)
-            << call << ": " << result.standardError;
+        EXPECT_EQ(result.standardError, "tsplpreview: standard output: No space left on device\n")
+            << call;
+    }
+    EXPECT_EQ(runFilter(shellCall(folder, "\"$PREVIEW\" --help >/dev/full")).status, 1);
+}
+
+// The stream has no end: that this one ends is because of the output.
+TEST(PreviewFailure, AFullStandardOutputEndsTheReading) {
+    const TemporaryFolder folder;
+    for (const char* list : {"--list", "--json"}) {
+        const FilterResult result =
+            runFilter(shellCall(folder, std::string("yes CLS | \"$PREVIEW\" >/dev/full ") + list));
+        EXPECT_EQ(result.status, 1) << list;
+        EXPECT_EQ(result.standardError, "tsplpreview: standard output: No space left on device\n");
     }
 }
 

@@ -65,3 +65,15 @@ std::string filterStream(const FilterCall& call) {
 std::string smallLabel(const std::string& bitmap, const std::string& print) {
     return "SIZE 2 mm,1 mm\r\nCLS\r\nBITMAP 0,0,2,8,0," + bitmap + "\r\n" + print;
 }
+
+std::string noiseLabel(int width, int height) {
+    std::string bitmap;
+    unsigned state = 1;
+    for (int i = 0; i < width / 8 * height; ++i) {
+        state = state * 1664525 + 1013904223;
+        bitmap += static_cast<char>(state >> 24U);
+    }
+    const std::string rows = std::to_string(height);
+    return "SIZE " + std::to_string(width) + " dot," + rows + " dot\r\nCLS\r\nBITMAP 0,0," +
+           std::to_string(width / 8) + "," + rows + ",0," + bitmap + "\r\nPRINT 1,1\r\n";
+}

@@ -29,6 +29,10 @@ std::string filterStream(const FilterCall& call);
 /// A label of 16 × 8 dots at 203 dpi with these 16 bytes as its bitmap.
 std::string smallLabel(const std::string& bitmap, const std::string& print = "PRINT 1,1\r\n");
 
+/// A label of noise, which no picture file makes smaller; its sides in dots, the width a multiple
+/// of 8.
+std::string noiseLabel(int width, int height);
+
 /// The bitmap of a letter F of 16 × 8 dots; a 0 bit burns.
 inline const std::string letterBitmap(
     "\xff\xff\x80\x7f\x9f\xff\x9f\xff\x83\xff\x9f\xff\x9f\xff\xff\xff", 16);
