@@ -29,6 +29,11 @@ Json jsonOf(const std::vector<std::string>& arguments) {
 
 }  // namespace
 
+void JsonListing::onStream(const std::string& name) {
+    const Json line = {{"type", "stream"}, {"name", tspl::printable(name)}};
+    out_ << line << '\n';
+}
+
 void JsonListing::onEntry(const tspl::Entry& entry) {
     Json line = {{"type", entry.name.empty() ? "other" : "command"}, {"offset", entry.offset}};
     if (!entry.name.empty()) {

@@ -6,7 +6,7 @@
 #include "preview/options.h"
 #include "preview/preview_job.h"
 
-/// The previewer: `tsplpreview [options] [file]`. Status 0 when all went well, 1 for complaints
+/// The previewer: `tsplpreview [options] [file ...]`. Status 0 when all went well, 1 for complaints
 /// or failures, 2 for a wrong command line.
 int main(int argc, char* argv[]) {
     preview::catchEndingSignals();

@@ -1,11 +1,12 @@
 #include "preview/options.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 #include <iostream>
 #include <sstream>
 
+#include "preview/picture_names.h"
 #include "preview/version.h"
 #include "tspl/text.h"
 
@@ -20,7 +21,8 @@ const std::string sDescription =
     "Shows what a TSPL label printer would print: one PNG picture for every label of a stream.";
 
 const std::string sFooter =
-    "Without -o the pictures are named after FILE and written to the current folder.\n"
+    "Without -o the pictures are named after FILE and written to the current folder; with -o and\n"
+    "several files they are called PREFIX-FILE-1.png and so on.\n"
     "Exit status: 0 when all went well, 1 when --check has something to complain of or a file\n"
     "cannot be read or written, 2 for a wrong command line.";
 
@@ -48,19 +50,20 @@ int inform(const CLI::App& app, const CLI::ParseError& end) {
     return std::cout.good() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-// The input's name without folders and ending.
-std::string prefixOf(const Options& options) {
-    const std::string stem = std::filesystem::path(options.input).stem().string();
-    return options.readsStandardInput() || stem.empty() ? "label" : stem;
-}
-
 const CLI::Validator sNotEmpty(
     [](const std::string& text) { return std::string(text.empty() ? "must not be empty" : ""); },
     "");
 
+const CLI::Validator sLabels(
+    [](const std::string& text) {
+        return std::string(parseLabelRange(text) ? "" : "is no label like 5 or 3-7");
+    },
+    "");
+
 struct RawOptions {
-    Options options;
+    std::vector<std::string> files;
     std::string prefix;
+    std::string labels;
     int dpi = 0;
     std::string burn = "zeros";
     bool list = false;
@@ -71,12 +74,14 @@ struct RawOptions {
 void describe(CLI::App& app, RawOptions& raw) {
     app.set_version_flag("--version", std::string("tsplpreview ") + version);
     app.footer(sFooter);
-    app.add_option("FILE", raw.options.input,
-                   "The TSPL stream; standard input without it or for -");
+    app.add_option("FILE", raw.files, "TSPL streams; standard input without one or for -");
     app.add_option("-o,--output", raw.prefix,
                    "Write the pictures as PREFIX-1.png, PREFIX-2.png and so on")
         ->type_name("PREFIX")
         ->check(sNotEmpty);
+    app.add_option("--label", raw.labels, "Show label N only, or labels N-M")
+        ->type_name("N[-M]")
+        ->check(sLabels);
     app.add_option("--dpi", raw.dpi,
                    "Resolution of the printer; else worked out from SIZE and the bitmaps")
         ->type_name("DPI")
@@ -104,20 +109,35 @@ Listing listingOf(const RawOptions& raw) {
     return raw.check ? Listing::Check : Listing::None;
 }
 
-Options finished(RawOptions raw, bool prefixGiven) {
-    Options options = raw.options;
+std::vector<Source> sourcesOf(const RawOptions& raw, bool prefixGiven) {
+    const std::vector<std::string> files =
+        raw.files.empty() ? std::vector<std::string>{"-"} : raw.files;
+    const auto names = pictureNames(files, prefixGiven ? std::optional(raw.prefix) : std::nullopt);
+    std::vector<Source> sources;
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        sources.push_back({files[i], names[i]});
+    }
+    return sources;
+}
+
+Options finished(const RawOptions& raw, bool prefixGiven) {
+    Options options;
+    options.sources = sourcesOf(raw, prefixGiven);
     options.listing = listingOf(raw);
+    options.writesPictures = prefixGiven || options.listing == Listing::None;
+    options.labels = parseLabelRange(raw.labels);
     options.printer.onesBurn = raw.burn == "ones";
     if (raw.dpi != 0) {
         options.printer.dpi = raw.dpi;
     }
-    if (prefixGiven) {
-        const bool isFolder = raw.prefix.ends_with('/');
-        options.pictures = isFolder ? raw.prefix + prefixOf(options) : raw.prefix;
-    } else if (options.listing == Listing::None) {
-        options.pictures = prefixOf(options);
-    }
     return options;
+}
+
+// What no option can see of another one.
+void checkTogether(const RawOptions& raw) {
+    if (std::count(raw.files.begin(), raw.files.end(), "-") > 1) {
+        throw CLI::ValidationError("FILE", "standard input can be read only once");
+    }
 }
 
 }  // namespace
@@ -128,6 +148,7 @@ std::variant<Options, int> parseOptions(int argc, char* argv[]) {
     describe(app, raw);
     try {
         app.parse(argc, argv);
+        checkTogether(raw);
     } catch (const CLI::ParseError& end) {
         return end.get_exit_code() == 0 ? inform(app, end) : complain(app, end);
     }

@@ -3,7 +3,9 @@
 #include <optional>
 #include <string>
 #include <variant>
+#include <vector>
 
+#include "preview/label_range.h"
 #include "tspl/printer_model.h"
 
 namespace preview {
@@ -16,16 +18,24 @@ enum class Listing {
     Check,  ///< complaints only
 };
 
+/// A stream to read.
+struct Source {
+    /// Name of its file; "-" for standard input.
+    std::string file = "-";
+    /// What the names of its pictures begin with.
+    std::string pictures = "label";
+
+    [[nodiscard]] bool isStandardInput() const { return file == "-"; }
+};
+
 /// The command line.
 struct Options {
-    /// Name of the stream's file; "-" for standard input.
-    std::string input = "-";
-    /// Start of the pictures' names; none when no pictures are wanted.
-    std::optional<std::string> pictures;
+    std::vector<Source> sources;
+    bool writesPictures = true;
+    /// The labels to show; all of them without.
+    std::optional<LabelRange> labels;
     Listing listing = Listing::None;
     tspl::PrinterOptions printer;
-
-    [[nodiscard]] bool readsStandardInput() const { return input == "-"; }
 };
 
 /// Reads the command line. Help and version go to standard output, errors to standard error; the

@@ -24,6 +24,10 @@ std::string describe(const tspl::BitmapSummary& bitmap) {
     return text.str();
 }
 
+void TextListing::onStream(const std::string& name) {
+    out_ << tspl::printable(name) << ":\n";
+}
+
 void TextListing::onEntry(const tspl::Entry& entry) {
     out_ << std::setw(offsetColumns) << entry.offset << "  " << tspl::printable(entry.text);
     if (entry.bitmap) {

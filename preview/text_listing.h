@@ -2,15 +2,16 @@
 
 #include <ostream>
 
-#include "tspl/sink.h"
+#include "preview/stream_listing.h"
 
 namespace preview {
 
 /// Lists the commands, one per line: offset, command, and what there is to say about it.
-class TextListing : public tspl::Sink {
+class TextListing : public StreamListing {
 public:
     explicit TextListing(std::ostream& out) : out_(out) {}
 
+    void onStream(const std::string& name) override;
     void onEntry(const tspl::Entry& entry) override;
     void onFinding(const tspl::Finding&) override {}
     void onLabel(const tspl::PrintedLabel&) override {}

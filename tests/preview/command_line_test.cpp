@@ -159,8 +159,8 @@ TEST(PreviewCommandLine, HelpAndVersionGoToStandardOutput) {
         EXPECT_NE(result.standardOutput.find("tsplpreview"), std::string::npos) << option;
     }
     const std::string help = runPreview(folder, {"--help"}).standardOutput;
-    for (const char* option :
-         {"--output", "--dpi", "--burn", "--list", "--json", "--check", "FILE", "PREFIX"}) {
+    for (const char* option : {"--output", "--dpi", "--burn", "--list", "--json", "--check",
+                               "--label", "FILE", "PREFIX"}) {
         EXPECT_NE(help.find(option), std::string::npos) << option;
     }
     EXPECT_EQ(folder.names(), Names{});
@@ -171,7 +171,7 @@ TEST(PreviewCommandLine, AWrongCommandLineGivesStatusTwoAndAWordOnHowToGetHelp) 
     folder.write("a", smallLabel(letterBitmap));
     const std::vector<std::vector<std::string>> wrong = {
         {"--wrong"},          {"-x"},
-        {"a", "b"},           {"--dpi"},
+        {"-", "-"},           {"--dpi"},
         {"--dpi", "0"},       {"--dpi", "-203"},
         {"--dpi", "many"},    {"--dpi", "203.5"},
         {"--dpi", "1000000"}, {"--burn", "twos"},

@@ -1,0 +1,54 @@
+#include "preview/picture_names.h"
+
+#include <filesystem>
+#include <set>
+
+namespace preview {
+namespace {
+
+std::string stemOf(const std::string& input) {
+    const std::string stem = std::filesystem::path(input).stem().string();
+    return input == "-" || stem.empty() ? "label" : stem;
+}
+
+std::vector<std::string> stemsOf(const std::vector<std::string>& inputs) {
+    std::vector<std::string> stems;
+    for (const std::string& input : inputs) {
+        stems.push_back(stemOf(input));
+    }
+    return stems;
+}
+
+// The first input of a name keeps it. A made-up name is none that an input has by itself.
+void makeDifferent(std::vector<std::string>& stems) {
+    const std::set<std::string> own(stems.begin(), stems.end());
+    std::set<std::string> taken;
+    for (std::string& stem : stems) {
+        std::string name = stem;
+        for (int number = 2; taken.contains(name) || (name != stem && own.contains(name));
+             ++number) {
+            name = stem + "_" + std::to_string(number);
+        }
+        taken.insert(name);
+        stem = name;
+    }
+}
+
+}  // namespace
+
+std::vector<std::string> pictureNames(const std::vector<std::string>& inputs,
+                                      const std::optional<std::string>& prefix) {
+    if (prefix && inputs.size() == 1 && !prefix->ends_with('/')) {
+        return {*prefix};
+    }
+    std::vector<std::string> names = stemsOf(inputs);
+    makeDifferent(names);
+    for (std::string& name : names) {
+        if (prefix) {
+            name = *prefix + (prefix->ends_with('/') ? "" : "-") + name;
+        }
+    }
+    return names;
+}
+
+}  // namespace preview

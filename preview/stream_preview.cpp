@@ -1,0 +1,84 @@
+#include "preview/stream_preview.h"
+
+#include <unistd.h>
+
+#include <iostream>
+
+#include "preview/json_listing.h"
+#include "preview/text_listing.h"
+#include "tspl/text.h"
+
+namespace preview {
+namespace {
+
+std::unique_ptr<StreamListing> makeListing(Listing listing, std::ostream& out) {
+    if (listing == Listing::Text) {
+        return std::make_unique<TextListing>(out);
+    }
+    if (listing == Listing::Json) {
+        return std::make_unique<JsonListing>(out);
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+std::string nameOf(const Source& source) {
+    return source.isStandardInput() ? "standard input" : tspl::printable(source.file);
+}
+
+// Programs get the findings in the list itself; what --check prints is its result.
+StreamPreview::StreamPreview(const Options& options, const Source& source, std::ostream& out,
+                             std::uint64_t bytes)
+    : options_(options),
+      name_(nameOf(source)),
+      progress_(std::cerr, isatty(STDERR_FILENO) != 0, bytes),
+      listing_(makeListing(options.listing, out)),
+      findings_(options.listing == Listing::Check ? out : std::cerr, name_,
+                options.listing != Listing::Check),
+      pictures_(source.pictures, options.listing == Listing::None ? &out : nullptr, std::cerr),
+      flush_(out),
+      chosen_(shown_, options.labels),
+      model_(sinks_, options.printer),
+      parser_(model_) {
+    if (listing_) {
+        shown_.add(*listing_);
+    }
+    if (options.listing != Listing::Json) {
+        shown_.add(findings_);
+    }
+    if (options.writesPictures) {
+        shown_.add(pictures_);
+    }
+    shown_.add(flush_);
+    sinks_.add(progress_);
+    sinks_.add(chosen_);
+    if (listing_ && options.sources.size() > 1) {
+        listing_->onStream(source.file);
+    }
+}
+
+void StreamPreview::feed(std::span<const std::uint8_t> piece) {
+    parser_.feed(piece);
+    progress_.show(parser_.offset());
+}
+
+void StreamPreview::finish() {
+    parser_.finish();
+}
+
+void StreamPreview::end() {
+    progress_.hide();
+    flush_.flush();
+    if (chosen_.missesRange()) {
+        std::cerr << "tsplpreview: " << name_ << ": there is no " << describe(*options_.labels)
+                  << ", the last one is " << chosen_.labels() << '\n';
+    }
+}
+
+bool StreamPreview::hasFailed() const {
+    const bool complained = options_.listing == Listing::Check && findings_.hasComplaints();
+    return pictures_.hasFailed() || complained || chosen_.missesRange();
+}
+
+}  // namespace preview
