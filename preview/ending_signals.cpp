@@ -4,7 +4,6 @@
 
 #include <array>
 #include <atomic>
-#include <cerrno>
 #include <csignal>
 
 namespace preview {
@@ -16,22 +15,19 @@ constexpr int sEndingSignals[] = {SIGHUP, SIGINT, SIGPIPE, SIGQUIT, SIGTERM, SIG
 std::array<std::atomic<const char*>, mostUnfinishedFiles> sUnfinished;
 static_assert(std::atomic<const char*>::is_always_lock_free);
 
-// The signal is blocked while its handler runs: it comes again, with its usual action, when the
-// handler returns.
-void endBy(int signal) {
-    for (const auto& name : sUnfinished) {
-        if (name != nullptr) {
-            unlink(name);
-        }
-    }
-    std::signal(signal, SIG_DFL);
-    std::raise(signal);
+volatile std::sig_atomic_t sDefers = 0;
+volatile std::sig_atomic_t sNoted = 0;
+
+bool isRequest(int signal) {
+    return signal == SIGHUP || signal == SIGINT || signal == SIGTERM;
 }
 
 void onSignal(int signal) {
-    const int savedErrno = errno;
-    endBy(signal);
-    errno = savedErrno;
+    if (sDefers != 0 && sNoted == 0 && isRequest(signal)) {
+        sNoted = signal;
+        return;
+    }
+    endBySignal(signal);
 }
 
 }  // namespace
@@ -46,6 +42,25 @@ void catchEndingSignals() {
         action.sa_flags = SA_RESTART;
         sigaction(signal, &action, nullptr);
     }
+}
+
+void deferEndingSignals() {
+    sDefers = 1;
+}
+
+int notedSignal() {
+    return sNoted;
+}
+
+// In its handler the signal is blocked, and comes when the handler returns.
+void endBySignal(int signal) {
+    for (const auto& name : sUnfinished) {
+        if (name != nullptr) {
+            unlink(name);
+        }
+    }
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
 }
 
 UnfinishedName::UnfinishedName(const char* name) : slot_(0) {

@@ -8,6 +8,15 @@ namespace preview {
 /// SIGPIPE, SIGQUIT, SIGTERM and SIGXFSZ. Those that the starter has ignored stay ignored.
 void catchEndingSignals();
 
+/// From now on the first SIGHUP, SIGINT or SIGTERM ends nothing and is noted.
+void deferEndingSignals();
+
+/// The signal that was noted; 0 as long as there was none.
+int notedSignal();
+
+/// Removes the unfinished files and ends the process as the signal does.
+void endBySignal(int signal);
+
 /// A file that a signal removes as long as this lives. There is room for `mostUnfinishedFiles`.
 class UnfinishedName {
 public:

@@ -15,7 +15,11 @@ int main(int argc, char* argv[]) {
         if (const int* status = std::get_if<int>(&options)) {
             return *status;
         }
-        return preview::runPreview(std::get<preview::Options>(options));
+        const int status = preview::runPreview(std::get<preview::Options>(options));
+        if (const int signal = preview::notedSignal(); signal != 0) {
+            preview::endBySignal(signal);
+        }
+        return status;
     } catch (const std::bad_alloc&) {
         std::cerr << "tsplpreview: not enough memory\n";
         return EXIT_FAILURE;

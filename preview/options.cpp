@@ -64,6 +64,7 @@ struct RawOptions {
     std::vector<std::string> files;
     std::string prefix;
     std::string labels;
+    bool follow = false;
     int dpi = 0;
     std::string burn = "zeros";
     bool list = false;
@@ -82,6 +83,8 @@ void describe(CLI::App& app, RawOptions& raw) {
     app.add_option("--label", raw.labels, "Show label N only, or labels N-M")
         ->type_name("N[-M]")
         ->check(sLabels);
+    auto* follow =
+        app.add_flag("--follow", raw.follow, "Read on when the file grows, until a signal ends it");
     app.add_option("--dpi", raw.dpi,
                    "Resolution of the printer; else worked out from SIZE and the bitmaps")
         ->type_name("DPI")
@@ -92,7 +95,7 @@ void describe(CLI::App& app, RawOptions& raw) {
     auto* list = app.add_flag("--list", raw.list, "List the commands, one per line");
     auto* json = app.add_flag("--json", raw.json, "The same as JSON objects, one per line");
     auto* check = app.add_flag("--check", raw.check, "Only complain, of all that is wrong");
-    for (auto* flag : {list, json, check}) {
+    for (auto* flag : {follow, list, json, check}) {
         flag->disable_flag_override();
     }
     list->excludes(json)->excludes(check);
@@ -124,6 +127,7 @@ Options finished(const RawOptions& raw, bool prefixGiven) {
     Options options;
     options.sources = sourcesOf(raw, prefixGiven);
     options.listing = listingOf(raw);
+    options.follows = raw.follow;
     options.writesPictures = prefixGiven || options.listing == Listing::None;
     options.labels = parseLabelRange(raw.labels);
     options.printer.onesBurn = raw.burn == "ones";
@@ -137,6 +141,9 @@ Options finished(const RawOptions& raw, bool prefixGiven) {
 void checkTogether(const RawOptions& raw) {
     if (std::count(raw.files.begin(), raw.files.end(), "-") > 1) {
         throw CLI::ValidationError("FILE", "standard input can be read only once");
+    }
+    if (raw.follow && raw.files.size() > 1) {
+        throw CLI::ValidationError("--follow", "takes a single file");
     }
 }
 

@@ -34,6 +34,8 @@ struct Options {
     bool writesPictures = true;
     /// The labels to show; all of them without.
     std::optional<LabelRange> labels;
+    /// Whether to read on where a file ends.
+    bool follows = false;
     Listing listing = Listing::None;
     tspl::PrinterOptions printer;
 };

@@ -6,6 +6,7 @@
 #include <iostream>
 #include <string>
 
+#include "preview/ending_signals.h"
 #include "preview/input_stream.h"
 #include "preview/output_buffer.h"
 #include "preview/stream_preview.h"
@@ -41,19 +42,86 @@ private:
                 return;
             }
         }
+        if (options_.follows) {
+            follow(source, input);
+        } else {
+            showAll(source, input);
+        }
+        if (!input.error().empty()) {
+            fail(nameOf(source), input.error());
+        }
+    }
+
+    void showAll(const Source& source, InputStream& input) {
         StreamPreview preview(options_, source, output_, input.bytes());
-        const std::string error = input.readAll([&](std::span<const std::uint8_t> piece) {
+        for (auto piece = input.read(); !piece.empty() && isWritable(); piece = input.read()) {
             preview.feed(piece);
-            return isWritable();
-        });
-        if (error.empty()) {
+        }
+        if (input.error().empty()) {
             preview.finish();
         }
+        end(preview);
+    }
+
+    // Reads on where a stream ends, until a signal comes; each stream that the file has held is one
+    // of its own.
+    void follow(const Source& source, InputStream& input) {
+        deferEndingSignals();
+        while (followOne(source, input)) {
+            if (input.isReplaced()) {
+                tell(source, "another file has this name now, which is read from its start");
+                if (const std::string error = input.open(source.file); !error.empty()) {
+                    fail(nameOf(source), error);
+                    return;
+                }
+            } else {
+                tell(source, "the file has become shorter and is read from its start");
+                input.rewind();
+            }
+        }
+    }
+
+    // True when another stream begins.
+    bool followOne(const Source& source, InputStream& input) {
+        StreamPreview preview(options_, source, output_, 0);
+        while (isWritable() && notedSignal() == 0) {
+            if (!input.isReady()) {
+                pause(input);
+                continue;
+            }
+            const auto piece = input.read();
+            if (!piece.empty()) {
+                preview.feed(piece);
+                continue;
+            }
+            if (!input.error().empty()) {
+                break;
+            }
+            const bool isOther = input.hasShrunk() || input.isReplaced();
+            if (isOther || !input.mayGrow()) {
+                preview.finish();
+                end(preview);
+                return isOther;
+            }
+            pause(input);
+        }
+        // What is not complete by now is neither shown nor complained of.
+        end(preview);
+        return false;
+    }
+
+    void pause(const InputStream& input) {
+        output_.flush();
+        input.await();
+    }
+
+    void end(StreamPreview& preview) {
         preview.end();
         failed_ = failed_ || preview.hasFailed();
-        if (!error.empty()) {
-            fail(nameOf(source), error);
-        }
+    }
+
+    static void tell(const Source& source, const std::string& what) {
+        std::cerr << "tsplpreview: " << nameOf(source) << ": " << what << '\n';
     }
 
     void fail(const std::string& what, const std::string& why) {

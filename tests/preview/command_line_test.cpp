@@ -160,7 +160,7 @@ TEST(PreviewCommandLine, HelpAndVersionGoToStandardOutput) {
     }
     const std::string help = runPreview(folder, {"--help"}).standardOutput;
     for (const char* option : {"--output", "--dpi", "--burn", "--list", "--json", "--check",
-                               "--label", "FILE", "PREFIX"}) {
+                               "--label", "--follow", "FILE", "PREFIX"}) {
         EXPECT_NE(help.find(option), std::string::npos) << option;
     }
     EXPECT_EQ(folder.names(), Names{});
@@ -169,16 +169,25 @@ TEST(PreviewCommandLine, HelpAndVersionGoToStandardOutput) {
 TEST(PreviewCommandLine, AWrongCommandLineGivesStatusTwoAndAWordOnHowToGetHelp) {
     const TemporaryFolder folder;
     folder.write("a", smallLabel(letterBitmap));
-    const std::vector<std::vector<std::string>> wrong = {
-        {"--wrong"},          {"-x"},
-        {"-", "-"},           {"--dpi"},
-        {"--dpi", "0"},       {"--dpi", "-203"},
-        {"--dpi", "many"},    {"--dpi", "203.5"},
-        {"--dpi", "1000000"}, {"--burn", "twos"},
-        {"--burn"},           {"--output"},
-        {"-o", ""},           {"--output="},
-        {"--list", "--json"}, {"--check", "--list"},
-        {"--json", "--check"}};
+    const std::vector<std::vector<std::string>> wrong = {{"--wrong"},
+                                                         {"-x"},
+                                                         {"-", "-"},
+                                                         {"--dpi"},
+                                                         {"--dpi", "0"},
+                                                         {"--dpi", "-203"},
+                                                         {"--dpi", "many"},
+                                                         {"--dpi", "203.5"},
+                                                         {"--dpi", "1000000"},
+                                                         {"--burn", "twos"},
+                                                         {"--follow", "a", "a"},
+                                                         {"--follow=1"},
+                                                         {"--burn"},
+                                                         {"--output"},
+                                                         {"-o", ""},
+                                                         {"--output="},
+                                                         {"--list", "--json"},
+                                                         {"--check", "--list"},
+                                                         {"--json", "--check"}};
     for (const auto& arguments : wrong) {
         const FilterResult result = runPreview(folder, arguments, smallLabel(letterBitmap));
         EXPECT_EQ(result.status, 2) << testing::PrintToString(arguments);
