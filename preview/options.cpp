@@ -65,6 +65,7 @@ struct RawOptions {
     std::string prefix;
     std::string labels;
     bool follow = false;
+    bool terminal = false;
     int dpi = 0;
     std::string burn = "zeros";
     bool list = false;
@@ -83,6 +84,8 @@ void describe(CLI::App& app, RawOptions& raw) {
     app.add_option("--label", raw.labels, "Show label N only, or labels N-M")
         ->type_name("N[-M]")
         ->check(sLabels);
+    auto* terminal = app.add_flag("--terminal", raw.terminal,
+                                  "Show the pictures as characters, as large as the window");
     auto* follow =
         app.add_flag("--follow", raw.follow, "Read on when the file grows, until a signal ends it");
     app.add_option("--dpi", raw.dpi,
@@ -95,11 +98,12 @@ void describe(CLI::App& app, RawOptions& raw) {
     auto* list = app.add_flag("--list", raw.list, "List the commands, one per line");
     auto* json = app.add_flag("--json", raw.json, "The same as JSON objects, one per line");
     auto* check = app.add_flag("--check", raw.check, "Only complain, of all that is wrong");
-    for (auto* flag : {follow, list, json, check}) {
+    for (auto* flag : {terminal, follow, list, json, check}) {
         flag->disable_flag_override();
     }
     list->excludes(json)->excludes(check);
     json->excludes(check);
+    terminal->excludes(json)->excludes(check);
 }
 
 Listing listingOf(const RawOptions& raw) {
@@ -128,7 +132,9 @@ Options finished(const RawOptions& raw, bool prefixGiven) {
     options.sources = sourcesOf(raw, prefixGiven);
     options.listing = listingOf(raw);
     options.follows = raw.follow;
-    options.writesPictures = prefixGiven || options.listing == Listing::None;
+    options.showsOnTerminal = raw.terminal;
+    options.writesPictures =
+        prefixGiven || (options.listing == Listing::None && !options.showsOnTerminal);
     options.labels = parseLabelRange(raw.labels);
     options.printer.onesBurn = raw.burn == "ones";
     if (raw.dpi != 0) {

@@ -32,6 +32,8 @@ struct Source {
 struct Options {
     std::vector<Source> sources;
     bool writesPictures = true;
+    /// Whether to show pictures as characters on standard output.
+    bool showsOnTerminal = false;
     /// The labels to show; all of them without.
     std::optional<LabelRange> labels;
     /// Whether to read on where a file ends.

@@ -37,6 +37,7 @@ StreamPreview::StreamPreview(const Options& options, const Source& source, std::
       findings_(options.listing == Listing::Check ? out : std::cerr, name_,
                 options.listing != Listing::Check),
       pictures_(source.pictures, options.listing == Listing::None ? &out : nullptr, std::cerr),
+      terminal_(out, STDOUT_FILENO, options.sources.size() > 1 ? name_ + ": " : ""),
       flush_(out),
       chosen_(shown_, options.labels),
       model_(sinks_, options.printer),
@@ -46,6 +47,9 @@ StreamPreview::StreamPreview(const Options& options, const Source& source, std::
     }
     if (options.listing != Listing::Json) {
         shown_.add(findings_);
+    }
+    if (options.showsOnTerminal) {
+        shown_.add(terminal_);
     }
     if (options.writesPictures) {
         shown_.add(pictures_);
@@ -78,7 +82,7 @@ void StreamPreview::end() {
 
 bool StreamPreview::hasFailed() const {
     const bool complained = options_.listing == Listing::Check && findings_.hasComplaints();
-    return pictures_.hasFailed() || complained || chosen_.missesRange();
+    return pictures_.hasFailed() || terminal_.hasFailed() || complained || chosen_.missesRange();
 }
 
 }  // namespace preview

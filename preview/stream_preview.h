@@ -12,6 +12,7 @@
 #include "preview/progress_line.h"
 #include "preview/sink_list.h"
 #include "preview/stream_listing.h"
+#include "preview/terminal_pictures.h"
 #include "tspl/printer_model.h"
 #include "tspl/stream_parser.h"
 
@@ -47,6 +48,7 @@ private:
     std::unique_ptr<StreamListing> listing_;
     FindingsListing findings_;
     PictureFiles pictures_;
+    TerminalPictures terminal_;
     LabelFlush flush_;
     SinkList shown_;
     ChosenLabels chosen_;

@@ -160,7 +160,7 @@ TEST(PreviewCommandLine, HelpAndVersionGoToStandardOutput) {
     }
     const std::string help = runPreview(folder, {"--help"}).standardOutput;
     for (const char* option : {"--output", "--dpi", "--burn", "--list", "--json", "--check",
-                               "--label", "--follow", "FILE", "PREFIX"}) {
+                               "--label", "--follow", "--terminal", "FILE", "PREFIX"}) {
         EXPECT_NE(help.find(option), std::string::npos) << option;
     }
     EXPECT_EQ(folder.names(), Names{});
@@ -185,6 +185,8 @@ TEST(PreviewCommandLine, AWrongCommandLineGivesStatusTwoAndAWordOnHowToGetHelp) 
                                                          {"--output"},
                                                          {"-o", ""},
                                                          {"--output="},
+                                                         {"--terminal", "--json"},
+                                                         {"--check", "--terminal"},
                                                          {"--list", "--json"},
                                                          {"--check", "--list"},
                                                          {"--json", "--check"}};

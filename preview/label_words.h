@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+#include "tspl/sink.h"
+
+namespace preview {
+
+/// "808 x 1218 dots at 203 dpi, 25.6 % burnt, printed 3 times".
+std::string describe(const tspl::PrintedLabel& label);
+
+}  // namespace preview
