@@ -64,10 +64,10 @@ std::vector<std::string> splitArguments(std::string_view text) {
 
 }  // namespace
 
-Command parseCommand(std::uint64_t offset, std::string_view line) {
+Command parseCommand(const Place& place, std::string_view line) {
     const std::string_view name = firstWord(trimmed(line));
     const std::string_view rest = trimmed(line).substr(name.size());
-    return {offset, upperCase(name), splitArguments(rest), std::string(line)};
+    return {place, upperCase(name), splitArguments(rest), std::string(line)};
 }
 
 bool hasOpenQuote(std::string_view text) {

@@ -5,6 +5,16 @@
 #include "tspl/text.h"
 
 namespace tspl {
+namespace {
+
+// The number behind the mode, which has to end with a comma.
+std::optional<std::int32_t> lengthBehind(const Command& command) {
+    constexpr std::size_t index = 5;
+    return command.arguments.size() == index + 2 ? parseInteger(command.arguments[index])
+                                                 : std::nullopt;
+}
+
+}  // namespace
 
 std::optional<BitmapHead> parseBitmapHead(const Command& command) {
     constexpr std::size_t numbers = 5;
@@ -20,10 +30,11 @@ std::optional<BitmapHead> parseBitmapHead(const Command& command) {
         values[i] = *value;
     }
     const auto [x, y, rowBytes, rows, mode] = values;
-    if (rowBytes < 0 || rows < 0) {
+    const auto compressedBytes = mode == BitmapHead::compressed ? lengthBehind(command) : 0;
+    if (rowBytes < 0 || rows < 0 || !compressedBytes || *compressedBytes < 0) {
         return std::nullopt;
     }
-    return BitmapHead{command.offset, x, y, rowBytes, rows, mode};
+    return BitmapHead{command, x, y, rowBytes, rows, mode, *compressedBytes};
 }
 
 std::optional<std::uint64_t> parseDownloadHead(const Command& command) {

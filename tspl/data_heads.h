@@ -7,11 +7,13 @@
 
 namespace tspl {
 
-/// Number of commas in the head of a BITMAP.
+/// Number of commas in the head of a BITMAP, and in that of one with compressed data.
 inline constexpr std::size_t bitmapCommas = 5;
+inline constexpr std::size_t compressedBitmapCommas = 6;
 
-/// Reads "BITMAP x,y,width,height,mode," with a width in bytes and a height in dots. Nothing when
-/// a number is missing, does not fit 32 bits, or the width or the height is negative.
+/// Reads "BITMAP x,y,width,height,mode," with a width in bytes and a height in dots, or with mode 3
+/// "BITMAP x,y,width,height,3,length,". Nothing when a number is missing, does not fit 32 bits, or
+/// the width, the height or the length is negative.
 std::optional<BitmapHead> parseBitmapHead(const Command& command);
 
 /// Reads the number of bytes that follow 'DOWNLOAD "name",bytes,', with or without a memory's

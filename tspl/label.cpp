@@ -71,16 +71,16 @@ void Label::clear() {
 }
 
 void Label::noteBitmap(const BitmapHead& head, std::int64_t x, std::int64_t y) {
-    if (head.dataBytes() == 0) {
+    if (head.pictureBytes() == 0) {
         return;
     }
     const std::int64_t right = x + head.rowBytes * dotsPerByte;
     const std::int64_t bottom = y + head.rows;
     if (right > widest_.end) {
-        widest_ = {head.offset, right};
+        widest_ = {head, right};
     }
     if (bottom > highest_.end) {
-        highest_ = {head.offset, bottom};
+        highest_ = {head, bottom};
     }
 }
 

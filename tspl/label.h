@@ -47,7 +47,7 @@ public:
 
     /// A bitmap that reaches over the edge, and the dot it ends before.
     struct Overhang {
-        std::uint64_t offset = 0;  ///< of its command
+        Place place;  ///< of its command
         std::int64_t end = 0;
     };
     /// The bitmap that reaches farthest over the right edge of a label of this size; the last

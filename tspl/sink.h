@@ -40,6 +40,7 @@ struct Finding {
     Kind kind = Kind::Complaint;
     std::uint64_t offset = 0;
     std::string text;
+    std::uint64_t line = 0;  ///< from 1, as an editor that splits no picture data counts them
 };
 
 /// A PRINT.

@@ -16,8 +16,8 @@ public:
     StreamHandler& operator=(const StreamHandler&) = delete;
     virtual ~StreamHandler() = default;
 
-    /// `count` lines without a command, the first of which starts at `offset`.
-    virtual void onBlankLines(std::uint64_t offset, std::uint64_t count) = 0;
+    /// `count` lines without a command, the first of which starts at `place`.
+    virtual void onBlankLines(const Place& place, std::uint64_t count) = 0;
 
     /// A command line, known or not.
     virtual void onCommand(const Command& command) = 0;
@@ -32,11 +32,11 @@ public:
     virtual void onBitmapEnd(std::uint64_t received) = 0;
 
     /// The end of a file that a DOWNLOAD stores in the printer, when the stream ended before it.
-    virtual void onDownloadCutShort(std::uint64_t offset, std::uint64_t expected,
+    virtual void onDownloadCutShort(const Place& place, std::uint64_t expected,
                                     std::uint64_t received) = 0;
 
     /// A line that is longer than any command, left out.
-    virtual void onLongLine(std::uint64_t offset) = 0;
+    virtual void onLongLine(const Place& place) = 0;
 
     /// The end of the stream.
     virtual void onEnd() {}

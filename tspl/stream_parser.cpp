@@ -5,6 +5,7 @@
 
 #include "tspl/data_heads.h"
 #include "tspl/text.h"
+#include "tspl/wrapper.h"
 
 namespace tspl {
 namespace {
@@ -69,6 +70,7 @@ void StreamParser::takeLineByte(std::uint8_t byte) {
         if (!ofData) {
             endLine();
         }
+        ++lineNumber_;
         return;
     }
     if (state_ == State::Line) {
@@ -82,7 +84,7 @@ void StreamParser::endLine() {
         return;
     }
     if (line_.empty()) {
-        blankStart_ = blankLines_ == 0 ? offset_ - leadingBlanks_ : blankStart_;
+        blankStart_ = blankLines_ == 0 ? Place{offset_ - leadingBlanks_, lineNumber_} : blankStart_;
         leadingBlanks_ = 0;
         ++blankLines_;
         return;
@@ -97,7 +99,7 @@ void StreamParser::addToLine(char c) {
             return;
         }
         leadingBlanks_ = 0;
-        lineStart_ = offset_;
+        lineStart_ = {offset_, lineNumber_};
         commas_ = 0;
     }
     if (line_.size() == longestLine) {
@@ -113,13 +115,15 @@ void StreamParser::addToLine(char c) {
     } else if (c == ',') {
         ++commas_;
         startDataAfterComma();
+    } else if (c == '>') {
+        endWrapper();
     }
 }
 
 // Only at the commas that can end a head is the line looked at: a line of nothing but commas is
 // not parsed over and over.
 void StreamParser::startDataAfterComma() {
-    if (commas_ < 2 || commas_ > bitmapCommas) {
+    if (commas_ < 2 || commas_ > compressedBitmapCommas) {
         return;
     }
     const char first = line_.front();
@@ -128,7 +132,7 @@ void StreamParser::startDataAfterComma() {
     }
     const Command command = parseCommand(lineStart_, line_);
     if (command.name == "BITMAP") {
-        const auto head = commas_ == bitmapCommas ? parseBitmapHead(command) : std::nullopt;
+        const auto head = commas_ >= bitmapCommas ? parseBitmapHead(command) : std::nullopt;
         if (head) {
             reportBlankLines();
             line_.clear();
@@ -138,6 +142,13 @@ void StreamParser::startDataAfterComma() {
     } else if (const auto bytes = parseDownloadHead(command)) {
         reportCommand();
         startData(State::Download, *bytes);
+    }
+}
+
+// What stands behind a wrapper on its line is a line of its own.
+void StreamParser::endWrapper() {
+    if (isWrapper(line_)) {
+        reportCommand();
     }
 }
 

@@ -15,7 +15,8 @@ namespace tspl {
 /// A line ends with a line feed, a carriage return or both. The data of a BITMAP and of a
 /// DOWNLOAD begin right behind the last comma of the head, are as long as the head says whatever
 /// bytes they hold, and may be followed by a line end, which belongs to them. An immediate
-/// command (escape, exclamation mark and one more byte, at the start of a line) has no line end.
+/// command (escape, exclamation mark and one more byte, at the start of a line) has no line end,
+/// and neither has a wrapper that some programs put in front of a command: <xpml>...</xpml>.
 class StreamParser {
 public:
     /// Bytes of the longest line that is read.
@@ -41,6 +42,7 @@ private:
     void endLine();
     void addToLine(char c);
     void startDataAfterComma();
+    void endWrapper();
     void startData(State kind, std::uint64_t bytes);
     void endData();
     void reportBlankLines();
@@ -50,12 +52,13 @@ private:
     State state_ = State::Line;
     std::uint64_t offset_ = 0;
     std::string line_;
-    std::uint64_t lineStart_ = 0;
+    Place lineStart_;
+    std::uint64_t lineNumber_ = 1;
     std::size_t commas_ = 0;
     std::uint64_t leadingBlanks_ = 0;
-    std::uint64_t blankStart_ = 0;
+    Place blankStart_;
     std::uint64_t blankLines_ = 0;
-    std::uint64_t dataStart_ = 0;
+    Place dataStart_;
     std::uint64_t dataBytes_ = 0;
     std::uint64_t dataTaken_ = 0;
     /// The byte before was a carriage return: a line feed now belongs to the same line end.

@@ -99,7 +99,7 @@ std::string lineOf(const std::string& name, std::size_t count, const std::string
 }
 
 std::string faultOf(const std::string& line) {
-    const Command command = parseCommand(0, line);
+    const Command command = parseCommand({}, line);
     const CommandRule* rule = findRule(command.name);
     return rule == nullptr ? "no rule" : findFault(*rule, command).value_or("");
 }

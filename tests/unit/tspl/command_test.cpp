@@ -11,40 +11,40 @@ namespace {
 using Texts = std::vector<std::string>;
 
 Texts argumentsOf(std::string_view line) {
-    return parseCommand(0, line).arguments;
+    return parseCommand({}, line).arguments;
 }
 
 TEST(ParseCommand, KeepsTheOffsetAndTheLineAsItCame) {
-    const Command command = parseCommand(77, "size  4 , 6 ");
+    const Command command = parseCommand({77, 3}, "size  4 , 6 ");
     EXPECT_EQ(command.offset, 77U);
     EXPECT_EQ(command.text, "size  4 , 6 ");
 }
 
 TEST(ParseCommand, NamesTheFirstWordInCapitals) {
-    EXPECT_EQ(parseCommand(0, "CLS").name, "CLS");
-    EXPECT_EQ(parseCommand(0, "cls").name, "CLS");
-    EXPECT_EQ(parseCommand(0, "Direction 1").name, "DIRECTION");
-    EXPECT_EQ(parseCommand(0, " \tSET TEAR ON").name, "SET");
-    EXPECT_EQ(parseCommand(0, "PDF417 1").name, "PDF417");
-    EXPECT_EQ(parseCommand(0, "A_1b").name, "A_1B");
+    EXPECT_EQ(parseCommand({}, "CLS").name, "CLS");
+    EXPECT_EQ(parseCommand({}, "cls").name, "CLS");
+    EXPECT_EQ(parseCommand({}, "Direction 1").name, "DIRECTION");
+    EXPECT_EQ(parseCommand({}, " \tSET TEAR ON").name, "SET");
+    EXPECT_EQ(parseCommand({}, "PDF417 1").name, "PDF417");
+    EXPECT_EQ(parseCommand({}, "A_1b").name, "A_1B");
 }
 
 TEST(ParseCommand, EndsTheNameAtEveryOtherByte) {
-    EXPECT_EQ(parseCommand(0, "TEXT\"a\"").name, "TEXT");
-    EXPECT_EQ(parseCommand(0, "PRINT,1").name, "PRINT");
-    EXPECT_EQ(parseCommand(0, "CLS\xFF").name, "CLS");
-    EXPECT_EQ(parseCommand(0, "CLS\t").name, "CLS");
+    EXPECT_EQ(parseCommand({}, "TEXT\"a\"").name, "TEXT");
+    EXPECT_EQ(parseCommand({}, "PRINT,1").name, "PRINT");
+    EXPECT_EQ(parseCommand({}, "CLS\xFF").name, "CLS");
+    EXPECT_EQ(parseCommand({}, "CLS\t").name, "CLS");
 }
 
 TEST(ParseCommand, NamesNothingThatStartsWithNoLetter) {
     for (const char* line : {"1CLS", "_CLS", "\x1b!S", "~!T", "@1=\"7\"", "\"CLS\"", ",", "\xFF"}) {
-        EXPECT_EQ(parseCommand(0, line).name, "") << line;
-        EXPECT_EQ(parseCommand(0, line).text, line);
+        EXPECT_EQ(parseCommand({}, line).name, "") << line;
+        EXPECT_EQ(parseCommand({}, line).text, line);
     }
 }
 
 TEST(ParseCommand, TakesAnEmptyLine) {
-    const Command command = parseCommand(5, "");
+    const Command command = parseCommand({5, 1}, "");
     EXPECT_EQ(command.offset, 5U);
     EXPECT_EQ(command.name, "");
     EXPECT_EQ(command.arguments, Texts{});
@@ -112,9 +112,9 @@ TEST(HasOpenQuote, CountsNoQuotationMarkWithinAText) {
 }
 
 TEST(BitmapHead, CountsBytesBeyond32Bits) {
-    EXPECT_EQ((BitmapHead{0, 0, 0, 3, 5, 0}.dataBytes()), 15U);
-    EXPECT_EQ((BitmapHead{0, 0, 0, INT32_MAX, INT32_MAX, 0}.dataBytes()), 4611686014132420609U);
-    EXPECT_EQ((BitmapHead{0, 0, 0, 0, INT32_MAX, 0}.dataBytes()), 0U);
+    EXPECT_EQ((BitmapHead{{}, 0, 0, 3, 5, 0}.dataBytes()), 15U);
+    EXPECT_EQ((BitmapHead{{}, 0, 0, INT32_MAX, INT32_MAX, 0}.dataBytes()), 4611686014132420609U);
+    EXPECT_EQ((BitmapHead{{}, 0, 0, 0, INT32_MAX, 0}.dataBytes()), 0U);
 }
 
 }  // namespace

@@ -7,11 +7,11 @@ namespace tspl {
 namespace {
 
 std::optional<BitmapHead> bitmapHead(const std::string& line) {
-    return parseBitmapHead(parseCommand(9, line));
+    return parseBitmapHead(parseCommand({9, 2}, line));
 }
 
 std::optional<std::uint64_t> downloadHead(const std::string& line) {
-    return parseDownloadHead(parseCommand(9, line));
+    return parseDownloadHead(parseCommand({9, 2}, line));
 }
 
 TEST(ParseBitmapHead, ReadsThePlaceTheSizeAndTheMode) {

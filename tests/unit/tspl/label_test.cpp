@@ -15,7 +15,7 @@ LabelSize sizeOf(const char* width, const char* height) {
 // A bitmap at (x, y) of this many bytes and rows.
 void note(Label& label, std::int64_t x, std::int64_t y, std::int32_t rowBytes, std::int32_t rows,
           std::uint64_t offset = 0) {
-    label.noteBitmap({offset, 0, 0, rowBytes, rows, 0}, x, y);
+    label.noteBitmap({{offset, 1}, 0, 0, rowBytes, rows, 0}, x, y);
 }
 
 void expectDots(Label& label, std::int64_t width, std::int64_t height, int dpi) {
@@ -246,11 +246,11 @@ TEST(LabelOverhang, IsOfTheBitmapThatReachesFarthest) {
     note(label, 0, 5, 2, 30, 300);
     const auto widest = label.widestOverhang({16, 10, 203});
     ASSERT_TRUE(widest);
-    EXPECT_EQ(widest->offset, 200U);
+    EXPECT_EQ(widest->place.offset, 200U);
     EXPECT_EQ(widest->end, 42);
     const auto highest = label.highestOverhang({16, 10, 203});
     ASSERT_TRUE(highest);
-    EXPECT_EQ(highest->offset, 300U);
+    EXPECT_EQ(highest->place.offset, 300U);
     EXPECT_EQ(highest->end, 35);
 }
 
@@ -258,8 +258,8 @@ TEST(LabelOverhang, IsOfTheFirstOfSeveralThatReachAsFar) {
     Label label(203, plenty);
     note(label, 0, 0, 3, 30, 100);
     note(label, 8, 10, 2, 20, 200);
-    EXPECT_EQ(label.widestOverhang({16, 10, 203})->offset, 100U);
-    EXPECT_EQ(label.highestOverhang({16, 10, 203})->offset, 100U);
+    EXPECT_EQ(label.widestOverhang({16, 10, 203})->place.offset, 100U);
+    EXPECT_EQ(label.highestOverhang({16, 10, 203})->place.offset, 100U);
 }
 
 TEST(LabelOverhang, IsToTheRowAtTheLowerEdge) {

@@ -8,14 +8,14 @@ namespace {
 
 std::string faultOf(const std::string& line) {
     AfterLabel afterLabel;
-    return obeySet(parseCommand(0, line), afterLabel).value_or("");
+    return obeySet(parseCommand({}, line), afterLabel).value_or("");
 }
 
 // What the lines switch on: T for tear, P for peel, C for cut.
 std::string switchedOn(const std::vector<std::string>& lines) {
     AfterLabel afterLabel;
     for (const std::string& line : lines) {
-        EXPECT_EQ(obeySet(parseCommand(0, line), afterLabel), std::nullopt) << line;
+        EXPECT_EQ(obeySet(parseCommand({}, line), afterLabel), std::nullopt) << line;
     }
     return std::string(afterLabel.tear ? "T" : "") +
            (afterLabel.peel || afterLabel.strip ? "P" : "") +
@@ -122,8 +122,8 @@ TEST(ObeySet, RefusesACutterThatCutsNeitherLabelsNorJobs) {
 
 TEST(ObeySet, ChangesNothingWhenItRefuses) {
     AfterLabel afterLabel{true, false, false};
-    EXPECT_TRUE(obeySet(parseCommand(0, "SET PEEL MAYBE"), afterLabel));
-    EXPECT_TRUE(obeySet(parseCommand(0, "SET TEAR"), afterLabel));
+    EXPECT_TRUE(obeySet(parseCommand({}, "SET PEEL MAYBE"), afterLabel));
+    EXPECT_TRUE(obeySet(parseCommand({}, "SET TEAR"), afterLabel));
     EXPECT_TRUE(afterLabel.tear);
     EXPECT_FALSE(afterLabel.peel);
 }

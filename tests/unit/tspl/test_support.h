@@ -28,8 +28,8 @@ class RecordingHandler : public StreamHandler {
 public:
     [[nodiscard]] const Texts& events() const { return events_; }
 
-    void onBlankLines(std::uint64_t offset, std::uint64_t count) override {
-        add("blank", {offset, count});
+    void onBlankLines(const Place& place, std::uint64_t count) override {
+        add("blank", {place.offset, count});
     }
     void onCommand(const Command& command) override {
         add("command", {command.offset}, command.text);
@@ -47,11 +47,11 @@ public:
         data_.append(data.begin(), data.end());
     }
     void onBitmapEnd(std::uint64_t received) override { add("data", {received}, data_); }
-    void onDownloadCutShort(std::uint64_t offset, std::uint64_t expected,
+    void onDownloadCutShort(const Place& place, std::uint64_t expected,
                             std::uint64_t received) override {
-        add("cut", {offset, expected, received});
+        add("cut", {place.offset, expected, received});
     }
-    void onLongLine(std::uint64_t offset) override { add("long", {offset}); }
+    void onLongLine(const Place& place) override { add("long", {place.offset}); }
 
 private:
     void add(std::string kind, const std::vector<std::uint64_t>& numbers,

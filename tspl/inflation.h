@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+
+struct z_stream_s;
+
+namespace tspl {
+
+/// Takes zlib data apart as they come in, a piece at a time.
+class Inflation {
+public:
+    using Take = std::function<void(std::span<const std::uint8_t>)>;
+
+    Inflation();
+    ~Inflation();
+    Inflation(const Inflation&) = delete;
+    Inflation& operator=(const Inflation&) = delete;
+
+    /// Hands on what the next data hold, in pieces of at most 64 KiB, until `take` has had
+    /// `mostBytes` in all; what is behind the end of the zlib data is left out.
+    void feed(std::span<const std::uint8_t> data, std::uint64_t mostBytes, const Take& take);
+
+    /// Bytes that came out so far.
+    [[nodiscard]] std::uint64_t bytes() const { return bytes_; }
+    /// Whether something other than zlib data came.
+    [[nodiscard]] bool isBroken() const { return isBroken_; }
+
+private:
+    std::unique_ptr<z_stream_s> stream_;
+    std::uint64_t bytes_ = 0;
+    bool isBroken_ = false;
+    bool isAtEnd_ = false;
+};
+
+}  // namespace tspl

@@ -1,0 +1,23 @@
+#include "tspl/command_rules.h"
+
+namespace tspl {
+namespace {
+
+constexpr CommandRule rules[] = {
+    {"EOJ", 0, 0, ArgumentKind::Any, Effect::NoMark},
+    {"DELAY", 1, 1, ArgumentKind::Integers, Effect::NoMark},
+    {"SOUND", 2, 2, ArgumentKind::Integers, Effect::NoMark},
+    {"DISPLAY", 1, 1, ArgumentKind::Any, Effect::NoMark},
+    {"SELFTEST", 0, 1, ArgumentKind::Any, Effect::NoMark},
+    {"INITIALPRINTER", 0, 0, ArgumentKind::Any, Effect::NoMark},
+    {"REM", 0, anyNumber, ArgumentKind::Any, Effect::NoMark},
+    {"OUT", 1, anyNumber, ArgumentKind::Any, Effect::NoMark},
+};
+
+}  // namespace
+
+std::span<const CommandRule> machineCommands() {
+    return rules;
+}
+
+}  // namespace tspl

@@ -1,0 +1,87 @@
+#include "tspl/command_rules.h"
+
+#include <charconv>
+#include <cmath>
+
+#include "tspl/length.h"
+#include "tspl/text.h"
+
+namespace tspl {
+namespace {
+
+void setSize(Printer& printer, const Command& command) {
+    const auto width = parseLength(command.arguments[0]);
+    const auto height = parseLength(command.arguments[1]);
+    if (width && height && !printer.label.setSize({*width, *height})) {
+        printer.complain(command, "a label of this size is too large to draw: " + quoted(command));
+    }
+}
+
+void setReference(Printer& printer, const Command& command) {
+    printer.reference = {integer(command, 0), integer(command, 1)};
+}
+
+void setShift(Printer& printer, const Command& command) {
+    const bool both = command.arguments.size() == 2;
+    printer.placement.shiftX = both ? integer(command, 0) : 0;
+    printer.placement.shiftY = integer(command, both ? 1 : 0);
+}
+
+void setDirection(Printer& printer, const Command& command) {
+    const std::int32_t direction = integer(command, 0);
+    const std::int32_t mirror = command.arguments.size() == 2 ? integer(command, 1) : 0;
+    if (direction < 0 || direction > 1 || mirror < 0 || mirror > 1) {
+        printer.complain(command, "DIRECTION takes 0 and 1");
+        return;
+    }
+    printer.placement.turned = direction == 1;
+    printer.placement.mirrored = mirror == 1;
+}
+
+void checkSpeed(Printer& printer, const Command& command) {
+    const std::string& text = command.arguments[0];
+    double speed = 0;
+    const auto number = std::from_chars(text.data(), text.data() + text.size(), speed);
+    if (number.ec != std::errc() || number.ptr != text.data() + text.size() ||
+        !std::isfinite(speed) || speed <= 0) {
+        printer.complain(command, "SPEED does not take \"" + printable(text) + '"');
+    }
+}
+
+// 15 is the darkest on most printers; some go on to 30.
+void checkDensity(Printer& printer, const Command& command) {
+    constexpr std::int32_t darkest = 30;
+    const std::int32_t density = integer(command, 0);
+    if (density < 0 || density > darkest) {
+        printer.complain(command, "DENSITY does not take " + std::to_string(density));
+    }
+}
+
+void set(Printer& printer, const Command& command) {
+    if (const auto fault = obeySet(command, printer.afterLabel)) {
+        printer.complain(command, *fault);
+    }
+}
+
+constexpr CommandRule rules[] = {
+    {"SIZE", 2, 2, ArgumentKind::Lengths, Effect::Obeyed, setSize},
+    {"GAP", 2, 2, ArgumentKind::Lengths, Effect::NoMark},
+    {"BLINE", 2, 2, ArgumentKind::Lengths, Effect::NoMark},
+    {"OFFSET", 1, 1, ArgumentKind::SignedLengths, Effect::NoMark},
+    {"REFERENCE", 2, 2, ArgumentKind::Integers, Effect::Obeyed, setReference},
+    {"SHIFT", 1, 2, ArgumentKind::Integers, Effect::Obeyed, setShift},
+    {"DIRECTION", 1, 2, ArgumentKind::Integers, Effect::Obeyed, setDirection},
+    {"SPEED", 1, 1, ArgumentKind::Any, Effect::Obeyed, checkSpeed},
+    {"DENSITY", 1, 1, ArgumentKind::Integers, Effect::Obeyed, checkDensity},
+    {"SET", 1, anyNumber, ArgumentKind::Any, Effect::Obeyed, set},
+    {"COUNTRY", 1, 1, ArgumentKind::Any, Effect::NoMark},
+    {"CODEPAGE", 1, 1, ArgumentKind::Any, Effect::NoMark},
+};
+
+}  // namespace
+
+std::span<const CommandRule> settingCommands() {
+    return rules;
+}
+
+}  // namespace tspl
