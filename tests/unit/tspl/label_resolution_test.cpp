@@ -16,9 +16,13 @@ Length oneDecimal(std::int64_t dots, int dpi) {
 LabelDots foundAgain(std::int64_t width, std::int64_t height, int dpi) {
     Label label(std::nullopt, std::uint64_t{1} << 30U);
     EXPECT_TRUE(label.setSize({oneDecimal(width, dpi), oneDecimal(height, dpi)}));
-    label.noteBitmap(
-        {0, 0, 0, static_cast<std::int32_t>((width + 7) / 8), static_cast<std::int32_t>(height), 0},
-        0, 0);
+    label.noteBitmap({{},
+                      0,
+                      0,
+                      static_cast<std::int32_t>((width + 7) / 8),
+                      static_cast<std::int32_t>(height),
+                      0},
+                     0, 0);
     const LabelDots dots = label.dots();
     EXPECT_FALSE(label.widestOverhang(dots)) << width << " x " << height << " at " << dpi;
     EXPECT_FALSE(label.highestOverhang(dots)) << width << " x " << height << " at " << dpi;
