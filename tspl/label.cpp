@@ -16,6 +16,10 @@ bool isSame(const Length& a, const Length& b) {
     return a.value == b.value && a.unit == b.unit && a.precision == b.precision;
 }
 
+bool areSame(const std::optional<Length>& a, const std::optional<Length>& b) {
+    return a && b ? isSame(*a, *b) : a.has_value() == b.has_value();
+}
+
 // The most dots that the length can be meant to have, and one for the edge. What is called 203 dpi
 // is 8 dots to the millimetre, a thousandth more.
 double mostDotsOf(const Length& length, int dpi) {
@@ -43,25 +47,35 @@ Label::Label(std::optional<int> dpi, std::uint64_t mostDots)
     : givenDpi_(dpi), mostDots_(mostDots), canvas_(canvasOfUnknownSize(mostDots)) {}
 
 bool Label::setSize(const LabelSize& size) {
-    if (size_ && isSame(size_->width, size.width) && isSame(size_->height, size.height)) {
+    if (size_ && isSame(size_->width, size.width) && areSame(size_->height, size.height)) {
         return !refused_;
     }
     size_ = size;
     refused_ = isTooLarge(size);
     canvas_ = DotCanvas(0, 0);
     if (!refused_) {
-        const int dpi = givenDpi_.value_or(highestDpi);
-        canvas_ = DotCanvas(static_cast<std::int64_t>(mostDotsOf(size.width, dpi)),
-                            static_cast<std::int64_t>(mostDotsOf(size.height, dpi)));
+        const double width = mostDotsOf(size.width, canvasDpi());
+        canvas_ = DotCanvas(static_cast<std::int64_t>(width),
+                            static_cast<std::int64_t>(mostRowsOf(size, width)));
     }
     clear();
     return !refused_;
 }
 
 bool Label::isTooLarge(const LabelSize& size) const {
-    const int dpi = givenDpi_.value_or(highestDpi);
-    return mostDotsOf(size.width, dpi) * mostDotsOf(size.height, dpi) >
-           static_cast<double>(mostDots_);
+    const double width = mostDotsOf(size.width, canvasDpi());
+    return width * mostRowsOf(size, width) > static_cast<double>(mostDots_) ||
+           width > static_cast<double>(mostDots_);
+}
+
+int Label::canvasDpi() const {
+    return givenDpi_.value_or(highestDpi);
+}
+
+// A label whose height is not given may have as many rows as there is memory for.
+double Label::mostRowsOf(const LabelSize& size, double width) const {
+    return size.height ? mostDotsOf(*size.height, canvasDpi())
+                       : std::floor(static_cast<double>(mostDots_) / width);
 }
 
 void Label::clear() {
@@ -89,13 +103,13 @@ LabelDots Label::dots() {
         return {};
     }
     const int dpi = resolution();
-    if (size_) {
-        return {wholeColumns(size_->width, dpi, widest_.end),
-                wholeDots(size_->height, dpi, highest_.end), dpi};
-    }
-    const Area burnt = canvas_.burntArea();
-    return {std::clamp(widest_.end, burnt.x + burnt.width, canvas_.width()),
-            std::clamp(highest_.end, burnt.y + burnt.height, canvas_.height()), dpi};
+    const Area burnt = size_ && size_->height ? Area{} : canvas_.burntArea();
+    return {size_ ? wholeColumns(size_->width, dpi, widest_.end)
+                  : std::clamp(widest_.end, burnt.x + burnt.width, canvas_.width()),
+            size_ && size_->height
+                ? wholeDots(*size_->height, dpi, highest_.end)
+                : std::clamp(highest_.end, burnt.y + burnt.height, canvas_.height()),
+            dpi};
 }
 
 int Label::resolution() {

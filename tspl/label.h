@@ -58,6 +58,8 @@ public:
 
 private:
     [[nodiscard]] bool isTooLarge(const LabelSize& size) const;
+    [[nodiscard]] int canvasDpi() const;
+    [[nodiscard]] double mostRowsOf(const LabelSize& size, double width) const;
     [[nodiscard]] int resolution();
 
     std::optional<int> givenDpi_;

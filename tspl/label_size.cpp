@@ -9,11 +9,13 @@ constexpr int sPrinterDpi[] = {203, 300, 600};
 
 // What is called 203 dpi is 8 dots to the millimetre: a label of 150 mm may have 1200 rows. Sizes
 // with decimals were worked out from dots and a resolution.
-bool isMetricEdge(const Length& length, int dpi, std::int64_t end) {
+std::optional<std::int64_t> metricDots(const Length& length, int dpi) {
     constexpr int metricDpi = 203;
     constexpr double dotsPerMillimetre = 8;
-    return dpi == metricDpi && length.unit == Unit::Millimetre && length.precision == 0 &&
-           std::llround(length.value * dotsPerMillimetre) == end;
+    if (dpi != metricDpi || length.unit != Unit::Millimetre || length.precision != 0) {
+        return std::nullopt;
+    }
+    return std::llround(length.value * dotsPerMillimetre);
 }
 
 }  // namespace
@@ -34,10 +36,13 @@ std::optional<int> nearestDpi(const Length& width, std::int64_t widthInDots) {
 }
 
 std::int64_t wholeDots(const Length& length, int dpi, std::int64_t end) {
-    if (isMetricEdge(length, dpi, end)) {
-        return end;
-    }
     const double dots = lengthInDots(length, dpi);
+    // Bytes of a picture may reach seven dots over its edge.
+    constexpr std::int64_t dotsPerByte = 8;
+    const bool endsAtEdge = std::abs(end - std::llround(dots)) < dotsPerByte;
+    if (const auto metric = metricDots(length, dpi); metric && (end == *metric || !endsAtEdge)) {
+        return *metric;
+    }
     // The decimals were rounded from a number that itself is no exact one.
     constexpr double slack = 0.001;
     if (std::abs(static_cast<double>(end) - dots) <= precisionInDots(length, dpi) + slack) {

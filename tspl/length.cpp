@@ -28,6 +28,14 @@ double halfOfLastDecimal(std::string_view number) {
     return 0.5 * std::pow(10.0, -static_cast<double>(decimals));
 }
 
+// A whole number is an exact size, and so is one of inches with a decimal, such as 2.5; more
+// decimals are rounded.
+bool isExact(std::string_view number, Unit unit) {
+    const auto point = number.find('.');
+    const std::size_t decimals = point == std::string_view::npos ? 0 : number.size() - point - 1;
+    return decimals == 0 || unit == Unit::Dot || (unit == Unit::Inch && decimals == 1);
+}
+
 double dotsPerUnit(Unit unit, int dpi) {
     constexpr double millimetresPerInch = 25.4;
     switch (unit) {
@@ -56,10 +64,8 @@ std::optional<Length> parseLength(std::string_view text) {
         return std::nullopt;
     }
     length.unit = *unit;
-    // A whole number is an exact size; only decimals are rounded ones.
-    const std::string_view digits = text.substr(0, written);
-    const bool whole = digits.find('.') == std::string_view::npos || digits.ends_with('.');
-    length.precision = whole || *unit == Unit::Dot ? 0 : halfOfLastDecimal(digits);
+    length.precision =
+        isExact(text.substr(0, written), *unit) ? 0 : halfOfLastDecimal(text.substr(0, written));
     return length;
 }
 

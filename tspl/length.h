@@ -17,7 +17,8 @@ struct Length {
     double value = 0;
     Unit unit = Unit::Inch;
     /// Half of the last decimal that is written, in the same unit: how far the length that was
-    /// meant may lie from `value`. 0 for dots.
+    /// meant may lie from `value`. 0 for dots, whole numbers and tenths of an inch, which are
+    /// exact.
     double precision = 0;
 };
 

@@ -5,6 +5,12 @@ namespace {
 
 constexpr CommandRule rules[] = {
     {"EOJ", 0, 0, ArgumentKind::Any, Effect::NoMark},
+    {"END", 0, 0, ArgumentKind::Any, Effect::NoMark},
+    {"MENU", 0, 1, ArgumentKind::Any, Effect::NoMark},
+    {"BEEP", 0, 2, ArgumentKind::Any, Effect::NoMark},
+    {"WLAN", 1, anyNumber, ArgumentKind::Any, Effect::NoMark},
+    {"NET", 1, anyNumber, ArgumentKind::Any, Effect::NoMark},
+    {"NFC", 1, anyNumber, ArgumentKind::Any, Effect::NoMark},
     {"DELAY", 1, 1, ArgumentKind::Integers, Effect::NoMark},
     {"SOUND", 2, 2, ArgumentKind::Integers, Effect::NoMark},
     {"DISPLAY", 1, 1, ArgumentKind::Any, Effect::NoMark},

@@ -2,7 +2,9 @@
 
 #include <utility>
 
+#include "tspl/basic_statements.h"
 #include "tspl/command_rules.h"
+#include "tspl/foreign_stream.h"
 #include "tspl/wrapper.h"
 
 namespace tspl {
@@ -20,15 +22,32 @@ bool isOtherLine(const Command& command) {
 }  // namespace
 
 void PrinterModel::onBlankLines(const Place& place, std::uint64_t count) {
+    if (isForeign_) {
+        return;
+    }
     const std::string words = std::to_string(count) + (count == 1 ? " blank line" : " blank lines");
     printer_.sink().onEntry({place.offset, "", {}, "(" + words + ")", std::nullopt, ""});
 }
 
 void PrinterModel::onCommand(const Command& command) {
+    if (isForeign(command)) {
+        return;
+    }
     std::string remark = obey(command);
     // The label of a PRINT comes before its entry, so that the entry can be the last word.
     printer_.sink().onEntry({command.offset, command.name, command.arguments, command.text,
                              std::nullopt, std::move(remark)});
+}
+
+// Of a stream that is no TSPL one finding tells more than one for every line.
+bool PrinterModel::isForeign(const Command& command) {
+    if (!std::exchange(hasBegun_, true)) {
+        if (const auto format = foreignFormat(command.text); !format.empty()) {
+            printer_.complain(command, "this is no TSPL: it looks like " + std::string(format));
+            isForeign_ = true;
+        }
+    }
+    return isForeign_;
 }
 
 std::string PrinterModel::obey(const Command& command) {
@@ -57,12 +76,23 @@ std::string PrinterModel::obey(const Command& command) {
 }
 
 std::string PrinterModel::refuse(const Command& command) {
+    if (isBasicStatement(command)) {
+        return passOverBasic(command);
+    }
     const bool badBitmap = command.name == "BITMAP";
     printer_.complain(command, (badBitmap ? "BITMAP needs two positions, a width, a height, a "
                                             "mode and data: "
                                           : "unknown command: ") +
                                    quoted(command));
     return badBitmap ? "not understood" : "unknown";
+}
+
+// Printers run them; what they draw cannot be told without running them here, too.
+std::string PrinterModel::passOverBasic(const Command& command) {
+    if (!std::exchange(hasSeenBasic_, true)) {
+        printer_.remark(command, "BASIC statements are not run");
+    }
+    return "not run";
 }
 
 void PrinterModel::onBitmap(const BitmapHead& head) {
@@ -83,6 +113,12 @@ void PrinterModel::onDownloadCutShort(const Place& place, std::uint64_t expected
                                  std::to_string(expected) + " bytes are there");
 }
 
+void PrinterModel::onByteOrderMark() {
+    printer_.complain({0, 1},
+                      "a byte order mark stands in front of the first command; printers take it "
+                      "for a part of it");
+}
+
 void PrinterModel::onEnd() {
     if (printer_.storingSince) {
         printer_.complain(*printer_.storingSince,
@@ -91,6 +127,9 @@ void PrinterModel::onEnd() {
 }
 
 void PrinterModel::onLongLine(const Place& place) {
+    if (isForeign_) {
+        return;
+    }
     printer_.complain(place, "a line that is longer than any command is skipped");
     printer_.sink().onEntry({place.offset, "", {}, "(a long line)", std::nullopt, "skipped"});
 }

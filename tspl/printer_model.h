@@ -27,14 +27,20 @@ public:
     void onDownloadCutShort(const Place& place, std::uint64_t expected,
                             std::uint64_t received) override;
     void onLongLine(const Place& place) override;
+    void onByteOrderMark() override;
     void onEnd() override;
 
 private:
     [[nodiscard]] std::string obey(const Command& command);
     [[nodiscard]] std::string refuse(const Command& command);
+    [[nodiscard]] std::string passOverBasic(const Command& command);
+    [[nodiscard]] bool isForeign(const Command& command);
 
     Printer printer_;
     BitmapDrawing bitmap_;
+    bool hasBegun_ = false;      ///< a line that is not blank has come
+    bool isForeign_ = false;     ///< another language: nothing of it is obeyed
+    bool hasSeenBasic_ = false;  ///< and has been spoken of
 };
 
 }  // namespace tspl

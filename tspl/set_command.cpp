@@ -10,18 +10,24 @@ namespace tspl {
 namespace {
 
 // Settings that are on or off.
-constexpr std::string_view sSwitches[] = {"TEAR", "PEEL",    "STRIPER", "BACK", "RIBBON",
-                                          "HEAD", "REPRINT", "KEY1",    "KEY2", "KEY3",
-                                          "LED1", "LED2",    "LED3",    "DEBUG"};
+constexpr std::string_view sSwitches[] = {"TEAR",   "PEEL", "STRIPER", "BACK", "REWIND",
+                                          "RIBBON", "HEAD", "REPRINT", "KEY1", "KEY2",
+                                          "KEY3",   "LED1", "LED2",    "LED3", "DEBUG"};
 
 // Settings with values of their own.
 constexpr std::string_view sSettings[] = {
-    "COUNTER", "GAP",     "BLINE",   "COM1",    "PRINTKEY",   "RESPONSE",  "PRINTQUALITY",
-    "STANDBY", "ENCODER", "USBHOST", "PRINTER", "SENSOR_REF", "LABELERROR"};
+    "APPLICATOR",   "COUNTER", "GAP",     "BLINE",   "COM1",    "PRINTKEY",   "RESPONSE",
+    "PRINTQUALITY", "STANDBY", "ENCODER", "USBHOST", "PRINTER", "SENSOR_REF", "LABELERROR"};
 
 template <std::size_t N>
 bool contains(const std::string_view (&names)[N], std::string_view name) {
     return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+// A numbered input or output, such as GPO1.
+bool isPort(std::string_view key) {
+    return (key.starts_with("GPO") || key.starts_with("GPI")) &&
+           (key.size() == 3 || parseInteger(key.substr(3)));
 }
 
 // "TEAR OFF" as its two words; the second one is empty when there is none.
@@ -59,11 +65,14 @@ std::optional<std::string> obeySet(const Command& command, AfterLabel& afterLabe
     const auto [key, value] = keyAndValue(command);
     const bool isSwitch = contains(sSwitches, key);
     const bool isCutter = key == "CUTTER" || key == "PARTIAL_CUTTER";
-    if (!isSwitch && !isCutter && !contains(sSettings, key)) {
+    if (!isSwitch && !isCutter && !contains(sSettings, key) && !isPort(key)) {
         return "SET does not take " + printable(key);
     }
     if (value.empty()) {
         return "SET " + key + " without a value";
+    }
+    if (key == "RIBBON" && (value == "INSIDE" || value == "OUTSIDE")) {
+        return std::nullopt;
     }
     const bool off = value == "OFF" || (isCutter && value == "0");
     if (isSwitch && !off && value != "ON") {

@@ -9,11 +9,20 @@
 namespace tspl {
 namespace {
 
+// Whoever writes SIZE 40,30 means millimetres, and the printer takes them for inches.
+constexpr double widestHeadInches = 12;
+
 void setSize(Printer& printer, const Command& command) {
     const auto width = parseLength(command.arguments[0]);
-    const auto height = parseLength(command.arguments[1]);
-    if (width && height && !printer.label.setSize({*width, *height})) {
+    const auto height =
+        command.arguments.size() == 2 ? parseLength(command.arguments[1]) : std::nullopt;
+    if (width && !printer.label.setSize({*width, height})) {
         printer.complain(command, "a label of this size is too large to draw: " + quoted(command));
+    } else if (width && width->unit == Unit::Inch && width->value > widestHeadInches) {
+        printer.complain(command,
+                         "no printer is as wide as this label; a number alone is in "
+                         "inches: " +
+                             quoted(command));
     }
 }
 
@@ -64,9 +73,9 @@ void set(Printer& printer, const Command& command) {
 }
 
 constexpr CommandRule rules[] = {
-    {"SIZE", 2, 2, ArgumentKind::Lengths, Effect::Obeyed, setSize},
-    {"GAP", 2, 2, ArgumentKind::Lengths, Effect::NoMark},
-    {"BLINE", 2, 2, ArgumentKind::Lengths, Effect::NoMark},
+    {"SIZE", 1, 2, ArgumentKind::Lengths, Effect::Obeyed, setSize},
+    {"GAP", 1, 2, ArgumentKind::Lengths, Effect::NoMark},
+    {"BLINE", 1, 2, ArgumentKind::Lengths, Effect::NoMark},
     {"OFFSET", 1, 1, ArgumentKind::SignedLengths, Effect::NoMark},
     {"REFERENCE", 2, 2, ArgumentKind::Integers, Effect::Obeyed, setReference},
     {"SHIFT", 1, 2, ArgumentKind::Integers, Effect::Obeyed, setShift},

@@ -38,6 +38,9 @@ public:
     /// A line that is longer than any command, left out.
     virtual void onLongLine(const Place& place) = 0;
 
+    /// A byte order mark at the start of the stream, left out.
+    virtual void onByteOrderMark() {}
+
     /// The end of the stream.
     virtual void onEnd() {}
 };

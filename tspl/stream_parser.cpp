@@ -17,6 +17,10 @@ bool isImmediate(std::string_view line) {
     return line.size() == immediateBytes && line[0] == escape && line[1] == '!';
 }
 
+bool isByteOrderMark(std::string_view line) {
+    return line == "\xEF\xBB\xBF";
+}
+
 bool isBlank(char c) {
     return c == ' ' || c == '\t';
 }
@@ -110,7 +114,10 @@ void StreamParser::addToLine(char c) {
         return;
     }
     line_ += c;
-    if (isImmediate(line_)) {
+    if (isByteOrderMark(line_) && lineStart_.offset == 0) {
+        line_.clear();
+        handler_.onByteOrderMark();
+    } else if (isImmediate(line_)) {
         reportCommand();
     } else if (c == ',') {
         ++commas_;

@@ -29,9 +29,9 @@ constexpr auto sSigned = ArgumentKind::SignedLengths;
 constexpr auto sAny = ArgumentKind::Any;
 
 constexpr Expected sCommands[] = {
-    {"SIZE", 2, 2, sLength, Effect::Obeyed},
-    {"GAP", 2, 2, sLength, Effect::NoMark},
-    {"BLINE", 2, 2, sLength, Effect::NoMark},
+    {"SIZE", 1, 2, sLength, Effect::Obeyed},
+    {"GAP", 1, 2, sLength, Effect::NoMark},
+    {"BLINE", 1, 2, sLength, Effect::NoMark},
     {"OFFSET", 1, 1, sSigned, Effect::NoMark},
     {"REFERENCE", 2, 2, sInteger, Effect::Obeyed},
     {"SHIFT", 1, 2, sInteger, Effect::Obeyed},
@@ -76,6 +76,12 @@ constexpr Expected sCommands[] = {
     {"AUTODETECT", 0, 2, sAny, Effect::NoMark},
     {"EOP", 0, 0, sAny, Effect::Obeyed},
     {"EOJ", 0, 0, sAny, Effect::NoMark},
+    {"END", 0, 0, sAny, Effect::NoMark},
+    {"MENU", 0, 1, sAny, Effect::NoMark},
+    {"BEEP", 0, 2, sAny, Effect::NoMark},
+    {"WLAN", 1, anyNumber, sAny, Effect::NoMark},
+    {"NET", 1, anyNumber, sAny, Effect::NoMark},
+    {"NFC", 1, anyNumber, sAny, Effect::NoMark},
     {"DELAY", 1, 1, sInteger, Effect::NoMark},
     {"SOUND", 2, 2, sInteger, Effect::NoMark},
     {"DISPLAY", 1, 1, sAny, Effect::NoMark},
@@ -165,7 +171,7 @@ TEST(FindRule, IsNullForNamesThatTsplDoesNotHave) {
 TEST(FindFault, TellsTheNumberOfArgumentsThatACommandTakes) {
     EXPECT_EQ(faultOf("CLS 1"), "CLS takes 0 arguments, not 1");
     EXPECT_EQ(faultOf("FEED 1,2"), "FEED takes 1 argument, not 2");
-    EXPECT_EQ(faultOf("SIZE 4"), "SIZE takes 2 arguments, not 1");
+    EXPECT_EQ(faultOf("REFERENCE 4"), "REFERENCE takes 2 arguments, not 1");
     EXPECT_EQ(faultOf("SHIFT 1,2,3"), "SHIFT takes 1 to 2 arguments, not 3");
     EXPECT_EQ(faultOf("TEXT 1"), "TEXT takes 6 arguments or more, not 1");
 }

@@ -45,7 +45,7 @@ TEST(NearestDpi, IsNothingForAWidthThatTellsNone) {
 TEST(WholeDots, RoundsToTheNearestDot) {
     EXPECT_EQ(wholeDots(inches(4), 203, 0), 812);
     EXPECT_EQ(wholeDots(inches(0.5), 203, 0), 102);
-    EXPECT_EQ(wholeDots(millimetres(100, 0), 203, 0), 799);
+    EXPECT_EQ(wholeDots(millimetres(101.6, 0.05), 203, 0), 812);
     EXPECT_EQ(wholeDots({7, Unit::Dot, 0}, 203, 0), 7);
     EXPECT_EQ(wholeDots(inches(0), 203, 0), 0);
 }
@@ -84,6 +84,21 @@ TEST(WholeDots, EndsAtAPictureOf8DotsToEachOfAWholeNumberOfMillimetresAt203Dpi) 
     EXPECT_EQ(wholeDots(inches(100), 203, 800), 20300);
     EXPECT_EQ(wholeDots(millimetres(101.1, 0.05), 203, 809), 808);
     EXPECT_EQ(wholeDots(millimetres(152.3, 0.05), 203, 1218), 1217);
+}
+
+TEST(WholeDots, Are8ToEachOfAWholeNumberOfMillimetresAt203DpiWhereNoPictureTellsTheEdge) {
+    EXPECT_EQ(wholeDots(millimetres(100, 0), 203, 0), 800);
+    EXPECT_EQ(wholeDots(millimetres(100, 0), 203, 791), 800);
+    EXPECT_EQ(wholeDots(millimetres(100, 0), 203, 792), 799);
+    EXPECT_EQ(wholeDots(millimetres(100, 0), 203, 806), 799);
+    EXPECT_EQ(wholeDots(millimetres(100, 0), 203, 807), 800);
+    EXPECT_EQ(wholeDots(millimetres(100, 0), 300, 0), 1181);
+    EXPECT_EQ(wholeDots(millimetres(100.0, 0.05), 203, 0), 799);
+}
+
+TEST(WholeDots, OfTenthsOfAnInchAreExact) {
+    EXPECT_EQ(wholeDots(parseLength("2.5").value(), 203, 500), 508);
+    EXPECT_EQ(wholeDots(parseLength("2.5").value(), 203, 0), 508);
 }
 
 TEST(WholeDots, OfAnExactLengthGivesNoWay) {

@@ -33,7 +33,7 @@ TEST(ParseLength, TakesInches) {
     for (const char* text : {"4 in", "4IN", "4 inch", "4 Inches"}) {
         expectLength(text, 4, Unit::Inch, 0);
     }
-    expectLength("4.0 inch", 4, Unit::Inch, 0.05);
+    expectLength("4.00 inch", 4, Unit::Inch, 0.005);
 }
 
 TEST(ParseLength, TakesDots) {
@@ -50,9 +50,15 @@ TEST(ParseLength, KnowsHalfOfTheLastDecimalThatIsWritten) {
     expectLength("0.5 mm", 0.5, Unit::Millimetre, 0.05);
     expectLength("0.50 mm", 0.5, Unit::Millimetre, 0.005);
     expectLength("0.500 mm", 0.5, Unit::Millimetre, 0.0005);
-    expectLength(".5", 0.5, Unit::Inch, 0.05);
+    expectLength(".50", 0.5, Unit::Inch, 0.005);
     const std::string zeros(60000, '0');
     expectLength(("1." + zeros).c_str(), 1, Unit::Inch, 0);
+}
+
+TEST(ParseLength, TakesTenthsOfAnInchForExact) {
+    expectLength("2.5", 2.5, Unit::Inch, 0);
+    expectLength("4.0 inch", 4, Unit::Inch, 0);
+    expectLength(".5", 0.5, Unit::Inch, 0);
 }
 
 // No decimal is written, so none was rounded.

@@ -166,7 +166,7 @@ TEST(Complaint, IsMadeOfAnyNumberOfDotsOutside) {
 }
 
 TEST(Complaint, IsMadeOfAnUnknownModeOfABitmap) {
-    EXPECT_EQ(findingsIn("BITMAP 0,0,1,1,3,a"), complaint("BITMAP does not take mode 3"));
+    EXPECT_EQ(findingsIn("BITMAP 0,0,1,1,4,a"), complaint("BITMAP does not take mode 4"));
     EXPECT_EQ(findingsIn("BITMAP 0,0,1,1,-1,a"), complaint("BITMAP does not take mode -1"));
 }
 

@@ -1,0 +1,62 @@
+// Streams that are no TSPL.
+#include "tspl/foreign_stream.h"
+
+#include "tests/unit/tspl/test_support.h"
+
+namespace tspl {
+namespace {
+
+using namespace std::string_literals;
+
+TEST(ForeignStream, IsNamedByItsFirstLine) {
+    const std::pair<std::string, const char*> formats[] = {
+        {"^XA^FO50,50^FDx^FS^XZ", "ZPL"},
+        {"CT~~CD,~CC^~CT~", "ZPL"},
+        {"N", "EPL"},
+        {"%PDF-1.4", "PDF"},
+        {"%!PS-Adobe-3.0", "PostScript"},
+        {"\xFF\xFES\0I\0"s, "UTF-16"},
+        {"\xFE\xFF\0S"s, "UTF-16"},
+        {"S\0I\0Z\0E\0"s, "UTF-16"},
+        {"\x1b@", "ESC/POS"},
+        {"! 0 200 200 210 1", "CPCL"},
+        {"\x89PNG\r"s, "a PNG picture"},
+        {"RaS2PwgRaster", "CUPS raster"},
+    };
+    for (const auto& [line, name] : formats) {
+        EXPECT_EQ(foreignFormat(line), name) << line;
+    }
+}
+
+TEST(ForeignStream, IsNoneThatBeginsWithACommandOrAnythingElse) {
+    for (const char* line : {"SIZE 4,6", "CLS", "", "NEXT", "!", "<xpml></xpml>", "\x1b!R", "~!T",
+                             "REM ^XA", "@1=\"1\""}) {
+        EXPECT_EQ(foreignFormat(line), "") << line;
+    }
+}
+
+TEST(ForeignStream, IsComplainedOfOnce) {
+    EXPECT_EQ(findingsOf("\n^XA\n^FO50,50\n^FDtext^FS\nPRINT 1\n^XZ\n"),
+              Texts{"complaint 1 this is no TSPL: it looks like ZPL"});
+    EXPECT_EQ(findingsOf("%PDF-1.4\n" + std::string(200'000, 'x') + "\nendobj\n").size(), 1U);
+}
+
+TEST(ForeignStream, PrintsNothingAndListsNothing) {
+    RecordingSink sink;
+    obeyStream("N\nA50,50,0,1,1,1,N,\"x\"\nSIZE 4,6\nPRINT 1\n", sink);
+    EXPECT_TRUE(sink.labels.empty());
+    EXPECT_TRUE(sink.entries.empty());
+}
+
+TEST(ForeignStream, IsToldByItsBeginningOnly) {
+    EXPECT_EQ(findingsOf("SIZE 4,6\nN\n"), Texts{"complaint 9 unknown command: N"});
+}
+
+TEST(ForeignStream, MayBeTsplBehindAByteOrderMark) {
+    EXPECT_EQ(findingsOf("\xEF\xBB\xBFSIZE 4,6\nCLS\n"),
+              Texts{"complaint 0 a byte order mark stands in front of the first command; printers "
+                    "take it for a part of it"});
+}
+
+}  // namespace
+}  // namespace tspl
