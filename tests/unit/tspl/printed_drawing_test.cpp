@@ -87,8 +87,10 @@ TEST(Box, WithoutAnExtentDrawsNothing) {
               bare);
 }
 
-TEST(Box, DrawsRoundCornersSquare) {
-    EXPECT_EQ(drawn("BOX 1,0,7,4,1,2"), drawn("BOX 1,0,7,4,1"));
+TEST(Box, HasRoundCornersWhereARadiusIsGiven) {
+    EXPECT_EQ(drawn("BOX 1,0,7,4,1,2"),
+              (Texts{"..####..", ".#....#.", ".#....#.", "..####..", "........"}));
+    EXPECT_EQ(drawn("BOX 1,0,7,4,1,0"), drawn("BOX 1,0,7,4,1"));
 }
 
 // Each dot of the frame is counted once, whether it lies on the label or beyond.
