@@ -1,9 +1,20 @@
 #include "tspl/command_rules.h"
 
 #include "tspl/data_heads.h"
+#include "tspl/text_argument.h"
 
 namespace tspl {
 namespace {
+
+// The name stands before the size, after a memory's letter.
+std::string downloadedName(const Command& command) {
+    for (const std::string& argument : command.arguments) {
+        if (const auto name = parseTextArgument(argument)) {
+            return name->bytes;
+        }
+    }
+    return "";
+}
 
 // DOWNLOAD "NAME" without a size: a program follows, up to EOP.
 void startStoring(Printer& printer, const Command& command) {
@@ -11,7 +22,9 @@ void startStoring(Printer& printer, const Command& command) {
     const bool isProgram = last.size() > 1 && last.starts_with('"') && last.ends_with('"');
     if (isProgram) {
         printer.storingSince = command;
-    } else if (!parseDownloadHead(command)) {
+    } else if (parseDownloadHead(command)) {
+        printer.storedFiles.add(downloadedName(command));
+    } else {
         printer.complain(command,
                          "DOWNLOAD needs a name, and for a file its size: " + quoted(command));
     }

@@ -82,6 +82,7 @@ void Label::clear() {
     canvas_.clear();
     widest_ = {};
     highest_ = {};
+    reach_ = {};
 }
 
 void Label::noteBitmap(const BitmapHead& head, std::int64_t x, std::int64_t y) {

@@ -6,6 +6,7 @@
 #include "tspl/command.h"
 #include "tspl/dot_canvas.h"
 #include "tspl/label_size.h"
+#include "tspl/reach.h"
 
 namespace tspl {
 
@@ -41,6 +42,13 @@ public:
     /// none.
     void noteBitmap(const BitmapHead& head, std::int64_t x, std::int64_t y);
 
+    /// How far commands other than BITMAP draw.
+    [[nodiscard]] Reach& reach() { return reach_; }
+
+    /// Dots to the inch: the printer's when it is known, else what the bitmaps that are drawn tell,
+    /// or those before, or 203.
+    [[nodiscard]] int resolution();
+
     /// The size of the label as it is printed now. Without a SIZE it ends where the last dot
     /// does. 0 dots wide or high when the label was refused or no size can be told.
     [[nodiscard]] LabelDots dots();
@@ -60,7 +68,6 @@ private:
     [[nodiscard]] bool isTooLarge(const LabelSize& size) const;
     [[nodiscard]] int canvasDpi() const;
     [[nodiscard]] double mostRowsOf(const LabelSize& size, double width) const;
-    [[nodiscard]] int resolution();
 
     std::optional<int> givenDpi_;
     std::optional<int> lastDpi_;
@@ -69,6 +76,7 @@ private:
     DotCanvas canvas_;
     Overhang widest_;
     Overhang highest_;
+    Reach reach_;
     bool refused_ = false;
 };
 

@@ -22,11 +22,16 @@ void reportOverhang(Printer& printer, const LabelDots& dots) {
                                              ", the label is " + std::to_string(dots.height) +
                                              " rows high");
     }
+    for (const Reach::Overhang& overhang :
+         printer.label.reach().overhangs(dots.width, dots.height)) {
+        printer.complain(overhang.place, overhang.text);
+    }
 }
 
 void printLabel(Printer& printer, const Command& command, std::int32_t sets, std::int32_t copies) {
     const LabelDots dots = printer.label.dots();
     ++printer.labels;
+    printer.forgetRemarks();
     if (dots.width <= 0 || dots.height <= 0) {
         printer.complain(command, "the label has no size that can be drawn");
         printer.sink().onLostLabel();

@@ -2,13 +2,16 @@
 
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 
+#include "tspl/code_page.h"
 #include "tspl/command.h"
 #include "tspl/label.h"
 #include "tspl/label_picture.h"
 #include "tspl/set_command.h"
 #include "tspl/sink.h"
+#include "tspl/stored_names.h"
 
 namespace tspl {
 
@@ -46,6 +49,10 @@ public:
     void complain(const Place& place, std::string text);
     void remark(const Place& place, std::string text);
 
+    /// Remarks what holds of many commands of a label at the first one.
+    void remarkOnce(const Place& place, const std::string& text);
+    void forgetRemarks() { remarked_.clear(); }
+
     [[nodiscard]] Sink& sink() { return sink_; }
 
     const PrinterOptions options;
@@ -53,12 +60,15 @@ public:
     Point reference;
     Placement placement;
     AfterLabel afterLabel;
+    CodePage codePage;
+    StoredNames storedFiles;
     std::uint64_t labels = 0;  ///< printed so far
     /// Between DOWNLOAD of a program and EOP lines are stored, not obeyed; where it began.
     std::optional<Place> storingSince;
 
 private:
     Sink& sink_;
+    std::set<std::string> remarked_;
 };
 
 }  // namespace tspl

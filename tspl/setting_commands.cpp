@@ -72,6 +72,16 @@ void set(Printer& printer, const Command& command) {
     }
 }
 
+void setCodePage(Printer& printer, const Command& command) {
+    const std::string& name = command.arguments[0];
+    const auto codePage = CodePage::named(name);
+    if (!codePage) {
+        printer.complain(command, "CODEPAGE does not take \"" + printable(name) + '"');
+        return;
+    }
+    printer.codePage = *codePage;
+}
+
 constexpr CommandRule rules[] = {
     {"SIZE", 1, 2, ArgumentKind::Lengths, Effect::Obeyed, setSize},
     {"GAP", 1, 2, ArgumentKind::Lengths, Effect::NoMark},
@@ -84,7 +94,7 @@ constexpr CommandRule rules[] = {
     {"DENSITY", 1, 1, ArgumentKind::Integers, Effect::Obeyed, checkDensity},
     {"SET", 1, anyNumber, ArgumentKind::Any, Effect::Obeyed, set},
     {"COUNTRY", 1, 1, ArgumentKind::Any, Effect::NoMark},
-    {"CODEPAGE", 1, 1, ArgumentKind::Any, Effect::NoMark},
+    {"CODEPAGE", 1, 1, ArgumentKind::Any, Effect::Obeyed, setCodePage},
 };
 
 }  // namespace
