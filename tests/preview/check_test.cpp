@@ -54,6 +54,12 @@ const Fault sFaults[] = {
      "TEXT has a quotation mark that is never closed", 21},
     {"AStoredFileThatTheStreamCutsOff", "DOWNLOAD \"LOGO.BMP\",10,abc",
      "DOWNLOAD is cut short: 3 of 10 bytes are there", 0},
+    {"ATypeOfBarcodeThatIsNone", label("BARCODE 1,1,\"ABC\",5,0,0,1,2,\"A\""),
+     "BARCODE: there is no type \"ABC\"", 21},
+    {"AQrLevelThatIsNone", label("QRCODE 1,1,X,1,A,0,\"A\""),
+     "QRCODE: the level is L, M, Q or H, not \"X\"", 21},
+    {"TextBehindTheClosingMark", label("QRCODE 1,1,L,1,A,0,\"A\"B"),
+     "QRCODE: there is text behind the closing quotation mark: \"B\"", 21},
     {"ALineLongerThanAnyCommand", "TEXT " + std::string(70000, '1') + "\r\n",
      "a line that is longer than any command is skipped", 0},
     {"ALabelOfAbsurdSize", "SIZE 5000 mm,5000 mm\r\n",
@@ -94,8 +100,9 @@ TEST(CheckOfACleanStream, SaysNothingAndGivesStatusZero) {
         "\n\n\n",
         smallLabel(letterBitmap),
         // What is not drawn is nothing to complain of.
-        label("TEXT 1,1,\"3\",0,1,1,\"a, b\"\r\nBARCODE 1,1,\"128\",5,1,0,1,1,\"A\"\r\n"
-              "QRCODE 1,1,L,1,A,0,\"x\""),
+        label("TEXT 1,1,\"3\",0,1,1,\"a, b\"\r\nTLC39 1,1,0,\"123456\""),
+        "SIZE 100 mm,50 mm\nBARCODE 8,8,\"128\",50,1,0,2,2,\"A\"\nQRCODE 8,200,L,4,A,0,\"x\"\n"
+        "DMATRIX 200,8,100,100,x4,\"x\"\nPRINT 1\n",
         label("GAP 2 mm,0 mm\r\nGAP 0,0\r\nBLINE 2 mm,0 mm\r\nOFFSET 0.0 mm\r\nREFERENCE 0,0\r\n"
               "SHIFT 1\r\nDIRECTION 1\r\nDIRECTION 0,1\r\nSPEED 4\r\nSPEED 1.5\r\nDENSITY 0\r\n"
               "DENSITY 15\r\nSET RIBBON OFF\r\nSET TEAR ON\r\nSET PEEL OFF\r\nSET CUTTER OFF\r\n"

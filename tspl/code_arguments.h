@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "tspl/command.h"
+
+namespace tspl {
+
+/// Why a code is not drawn.
+class CodeFault : public std::runtime_error {
+public:
+    using runtime_error::runtime_error;
+};
+
+/// Why a code of a sound stream is not drawn: what it shows is known to the printer alone.
+class UnknownContent : public CodeFault {
+public:
+    using CodeFault::CodeFault;
+};
+
+/// Reads a whole number of a command; throws CodeFault, which calls it `what`, for any that is not
+/// from `least` to `most`.
+std::int32_t numberFrom(const std::string& argument, std::int32_t least, std::int32_t most,
+                        std::string_view what);
+
+/// Reads the angle of a code: 0, 90, 180 or 270; throws CodeFault for any other.
+int rotationFrom(const std::string& argument);
+
+/// Reads what stands between two quotation marks, of which \["] stands for one of the text, \[R]
+/// for a carriage return and \[L] for a line feed. Throws CodeFault when the marks are missing,
+/// when anything follows them or when nothing is between them, and UnknownContent for a variable.
+std::string contentFrom(const std::string& argument);
+
+/// The same of a word that is a name, such as the type of a code, in capitals. The marks may be
+/// missing.
+std::string nameFrom(const std::string& argument);
+
+/// Throws CodeFault when the command has fewer or more arguments.
+void requireArguments(const Command& command, std::size_t fewest, std::size_t most);
+
+}  // namespace tspl
