@@ -37,7 +37,7 @@ std::optional<BitmapHead> parseBitmapHead(const Command& command) {
     return BitmapHead{command, x, y, rowBytes, rows, mode, *compressedBytes};
 }
 
-std::optional<std::uint64_t> parseDownloadHead(const Command& command) {
+std::optional<DownloadHead> parseDownloadHead(const Command& command) {
     // The last argument is the empty one behind the comma that ends the head.
     const auto& arguments = command.arguments;
     if (command.name != "DOWNLOAD" || arguments.size() < 3 || !arguments.back().empty() ||
@@ -48,7 +48,8 @@ std::optional<std::uint64_t> parseDownloadHead(const Command& command) {
     if (!bytes || *bytes < 0) {
         return std::nullopt;
     }
-    return static_cast<std::uint64_t>(*bytes);
+    const std::string name(unquoted(arguments[arguments.size() - 3]));
+    return DownloadHead{name, static_cast<std::uint64_t>(*bytes)};
 }
 
 }  // namespace tspl

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "tspl/command.h"
 
@@ -16,8 +17,14 @@ inline constexpr std::size_t compressedBitmapCommas = 6;
 /// the width, the height or the length is negative.
 std::optional<BitmapHead> parseBitmapHead(const Command& command);
 
-/// Reads the number of bytes that follow 'DOWNLOAD "name",bytes,', with or without a memory's
-/// letter before the name. Nothing for any other command.
-std::optional<std::uint64_t> parseDownloadHead(const Command& command);
+/// The head of a DOWNLOAD that stores a file.
+struct DownloadHead {
+    std::string name;
+    std::uint64_t bytes = 0;  ///< of the file, which follow the head
+};
+
+/// Reads 'DOWNLOAD "name",bytes,', with or without a memory's letter before the name. Nothing for
+/// any other command.
+std::optional<DownloadHead> parseDownloadHead(const Command& command);
 
 }  // namespace tspl

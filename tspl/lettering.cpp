@@ -54,7 +54,7 @@ std::optional<Font> readFont(Printer& printer, const Command& command, std::size
     if (builtIn) {
         return builtIn;
     }
-    const bool isStored = printer.storedFiles.contains(*name);
+    const bool isStored = printer.files.find(*name) != nullptr;
     if (!isStored && !isOutlineFile(*name)) {
         return refuse(printer, command, "the font \"" + printable(*name) + '"');
     }

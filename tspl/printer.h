@@ -11,7 +11,7 @@
 #include "tspl/label_picture.h"
 #include "tspl/set_command.h"
 #include "tspl/sink.h"
-#include "tspl/stored_names.h"
+#include "tspl/stored_files.h"
 
 namespace tspl {
 
@@ -61,7 +61,7 @@ public:
     Placement placement;
     AfterLabel afterLabel;
     CodePage codePage;
-    StoredNames storedFiles;
+    StoredFiles files;
     std::uint64_t labels = 0;  ///< printed so far
     /// Between DOWNLOAD of a program and EOP lines are stored, not obeyed; where it began.
     std::optional<Place> storingSince;

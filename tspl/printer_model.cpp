@@ -33,6 +33,7 @@ void PrinterModel::onCommand(const Command& command) {
     if (isForeign(command)) {
         return;
     }
+    printer_.files.end();
     std::string remark = obey(command);
     // The label of a PRINT comes before its entry, so that the entry can be the last word.
     printer_.sink().onEntry({command.offset, command.name, command.arguments, command.text,
@@ -105,6 +106,10 @@ void PrinterModel::onBitmapData(std::uint64_t position, std::span<const std::uin
 
 void PrinterModel::onBitmapEnd(std::uint64_t received) {
     bitmap_.end(printer_, received);
+}
+
+void PrinterModel::onDownloadData(std::span<const std::uint8_t> data) {
+    printer_.files.append(data);
 }
 
 void PrinterModel::onDownloadCutShort(const Place& place, std::uint64_t expected,

@@ -24,6 +24,7 @@ public:
     void onBitmap(const BitmapHead& head) override;
     void onBitmapData(std::uint64_t position, std::span<const std::uint8_t> data) override;
     void onBitmapEnd(std::uint64_t received) override;
+    void onDownloadData(std::span<const std::uint8_t> data) override;
     void onDownloadCutShort(const Place& place, std::uint64_t expected,
                             std::uint64_t received) override;
     void onLongLine(const Place& place) override;

@@ -31,6 +31,9 @@ public:
     /// The end of the bitmap under way; `received` is less than announced when the stream ended.
     virtual void onBitmapEnd(std::uint64_t received) = 0;
 
+    /// The next data of a file that the DOWNLOAD before stores in the printer.
+    virtual void onDownloadData(std::span<const std::uint8_t> /*data*/) {}
+
     /// The end of a file that a DOWNLOAD stores in the printer, when the stream ended before it.
     virtual void onDownloadCutShort(const Place& place, std::uint64_t expected,
                                     std::uint64_t received) = 0;

@@ -55,6 +55,8 @@ std::size_t StreamParser::takeData(std::span<const std::uint8_t> bytes) {
     const auto taken = static_cast<std::size_t>(std::min<std::uint64_t>(left, bytes.size()));
     if (state_ == State::Bitmap) {
         handler_.onBitmapData(dataTaken_, bytes.first(taken));
+    } else {
+        handler_.onDownloadData(bytes.first(taken));
     }
     dataTaken_ += taken;
     if (dataTaken_ == dataBytes_) {
@@ -146,9 +148,9 @@ void StreamParser::startDataAfterComma() {
             handler_.onBitmap(*head);
             startData(State::Bitmap, head->dataBytes());
         }
-    } else if (const auto bytes = parseDownloadHead(command)) {
+    } else if (const auto file = parseDownloadHead(command)) {
         reportCommand();
-        startData(State::Download, *bytes);
+        startData(State::Download, file->bytes);
     }
 }
 

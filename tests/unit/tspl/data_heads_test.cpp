@@ -11,7 +11,8 @@ std::optional<BitmapHead> bitmapHead(const std::string& line) {
 }
 
 std::optional<std::uint64_t> downloadHead(const std::string& line) {
-    return parseDownloadHead(parseCommand({9, 2}, line));
+    const auto head = parseDownloadHead(parseCommand({9, 2}, line));
+    return head ? std::optional(head->bytes) : std::nullopt;
 }
 
 TEST(ParseBitmapHead, ReadsThePlaceTheSizeAndTheMode) {
