@@ -112,6 +112,7 @@ void BitmapDrawing::complainOfLength(Printer& printer, std::uint64_t received) c
 
 void BitmapDrawing::end(Printer& printer, std::uint64_t received) {
     complainOfLength(printer, received);
+    printer.label.noteDrawn(head_);
     std::vector<std::string> arguments = argumentsOf(head_);
     std::string text = "BITMAP ";
     for (const std::string& argument : arguments) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <limits>
+#include <utility>
 
 namespace tspl {
 namespace {
@@ -45,12 +46,20 @@ DotCanvas::DotCanvas(std::int64_t width, std::int64_t height)
       height_(height),
       stride_(static_cast<std::size_t>((width + dotsPerByte - 1) / dotsPerByte)) {}
 
+void Extent::add(const Extent& other) {
+    left = std::min(left, other.left);
+    top = std::min(top, other.top);
+    right = std::max(right, other.right);
+    bottom = std::max(bottom, other.bottom);
+}
+
 void DotCanvas::clear() {
     bytes_.clear();
     dotsOutside_ = 0;
 }
 
 void DotCanvas::fill(const Area& area) {
+    reach(area);
     const Area inside = clipped(area);
     countOutside(product(area.width, area.height) - product(inside.width, inside.height));
     reachRow(inside.y + inside.height - 1);
@@ -69,6 +78,7 @@ void DotCanvas::erase(const Area& area) {
 }
 
 void DotCanvas::invert(const Area& area) {
+    reach(area);
     const Area inside = clipped(area);
     reachRow(inside.y + inside.height - 1);
     for (std::int64_t y = inside.y; y < inside.y + inside.height; ++y) {
@@ -80,6 +90,7 @@ void DotCanvas::invert(const Area& area) {
 void DotCanvas::drawBits(std::int64_t x, std::int64_t y, std::span<const std::uint8_t> bits,
                          DrawMode mode) {
     const bool rowInside = y >= 0 && y < height_;
+    reachBits(x, y, bits);
     if (rowInside) {
         reachRow(y);
     }
@@ -194,6 +205,28 @@ void DotCanvas::drawByte(std::int64_t x, std::uint8_t* row, std::uint8_t bits, D
         row[byte] = combined(row[byte], moved, mask, mode);
     }
     countOutside(static_cast<unsigned>(std::popcount(bits)) - inside);
+}
+
+Extent DotCanvas::takeExtent() {
+    return std::exchange(extent_, {});
+}
+
+void DotCanvas::reach(const Area& area) {
+    if (area.width > 0 && area.height > 0) {
+        extent_.add({area.x, area.y, area.x + area.width, area.y + area.height});
+    }
+}
+
+void DotCanvas::reachBits(std::int64_t x, std::int64_t y, std::span<const std::uint8_t> bits) {
+    const auto burns = [](std::uint8_t byte) { return byte != 0; };
+    const auto first = std::find_if(bits.begin(), bits.end(), burns);
+    if (first == bits.end()) {
+        return;
+    }
+    const auto last = std::find_if(bits.rbegin(), bits.rend(), burns);
+    const std::int64_t left = x + (first - bits.begin()) * dotsPerByte + std::countl_zero(*first);
+    const std::int64_t right = x + (bits.rend() - last) * dotsPerByte - std::countr_zero(*last);
+    reach({left, y, right - left, 1});
 }
 
 void DotCanvas::countOutside(std::uint64_t dots) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <vector>
 
@@ -12,6 +13,17 @@ struct Area {
     std::int64_t y = 0;
     std::int64_t width = 0;
     std::int64_t height = 0;
+};
+
+/// The edges of what is drawn: the first dot and the one behind the last in each direction.
+struct Extent {
+    std::int64_t left = std::numeric_limits<std::int64_t>::max();
+    std::int64_t top = std::numeric_limits<std::int64_t>::max();
+    std::int64_t right = std::numeric_limits<std::int64_t>::min();
+    std::int64_t bottom = std::numeric_limits<std::int64_t>::min();
+
+    void add(const Extent& other);
+    [[nodiscard]] bool operator==(const Extent& other) const = default;
 };
 
 /// How new dots meet those that are there.
@@ -54,6 +66,9 @@ public:
     [[nodiscard]] std::uint64_t burntDots() const;
     [[nodiscard]] std::uint64_t burntDots(const Area& area) const;
 
+    /// The edges of what was to burn since it was asked last, on the canvas and beside it.
+    [[nodiscard]] Extent takeExtent();
+
     /// Number of dots that were to burn outside the canvas since it was last cleared.
     [[nodiscard]] std::uint64_t dotsOutside() const { return dotsOutside_; }
 
@@ -66,12 +81,15 @@ private:
     void changeRow(std::int64_t x, std::int64_t end, std::uint8_t* row, Change change);
     void drawByte(std::int64_t x, std::uint8_t* row, std::uint8_t bits, DrawMode mode);
     void countOutside(std::uint64_t dots);
+    void reach(const Area& area);
+    void reachBits(std::int64_t x, std::int64_t y, std::span<const std::uint8_t> bits);
 
     std::int64_t width_;
     std::int64_t height_;
     std::size_t stride_;
     std::vector<std::uint8_t> bytes_;
     std::uint64_t dotsOutside_ = 0;
+    Extent extent_;
 };
 
 }  // namespace tspl

@@ -83,6 +83,33 @@ void Label::clear() {
     widest_ = {};
     highest_ = {};
     reach_ = {};
+    drawn_.clear();
+}
+
+// Only a command that reaches farther than those before can be the first one over an edge.
+void Label::noteDrawn(const Place& place) {
+    Extent extent = canvas_.takeExtent();
+    if (extent.right <= extent.left) {
+        return;
+    }
+    const Extent before = drawn_.empty() ? Extent{} : drawn_.back().extent;
+    extent.add(before);
+    // A stream may draw farther and farther; the last one stands for all that follow then.
+    constexpr std::size_t most = 1000;
+    if (drawn_.size() == most) {
+        drawn_.back().extent = extent;
+    } else if (extent != before) {
+        drawn_.push_back({place, extent});
+    }
+}
+
+std::optional<Place> Label::overhanging(const LabelDots& dots) const {
+    const auto reachesOver = [&dots](const Drawn& drawn) {
+        return drawn.extent.left < 0 || drawn.extent.top < 0 || drawn.extent.right > dots.width ||
+               drawn.extent.bottom > dots.height;
+    };
+    const auto first = std::find_if(drawn_.begin(), drawn_.end(), reachesOver);
+    return first == drawn_.end() ? std::nullopt : std::optional<Place>(first->place);
 }
 
 void Label::noteBitmap(const BitmapHead& head, std::int64_t x, std::int64_t y) {

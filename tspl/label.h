@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "tspl/command.h"
 #include "tspl/dot_canvas.h"
@@ -49,6 +50,13 @@ public:
     /// or those before, or 203.
     [[nodiscard]] int resolution();
 
+    /// Takes notice of what the command at `place` has drawn on the canvas.
+    void noteDrawn(const Place& place);
+
+    /// The first command that has drawn over an edge of a label of this size; nothing where none
+    /// has.
+    [[nodiscard]] std::optional<Place> overhanging(const LabelDots& dots) const;
+
     /// The size of the label as it is printed now. Without a SIZE it ends where the last dot
     /// does. 0 dots wide or high when the label was refused or no size can be told.
     [[nodiscard]] LabelDots dots();
@@ -77,6 +85,12 @@ private:
     Overhang widest_;
     Overhang highest_;
     Reach reach_;
+    /// The commands that reached farther than all before them, with how far it was until then.
+    struct Drawn {
+        Place place;
+        Extent extent;
+    };
+    std::vector<Drawn> drawn_;
     bool refused_ = false;
 };
 

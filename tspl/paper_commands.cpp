@@ -44,7 +44,7 @@ void printLabel(Printer& printer, const Command& command, std::int32_t sets, std
     const std::uint64_t printed = picture.burntDots();
     const std::uint64_t outside = sum(onCanvas - printed, printer.label.canvas().dotsOutside());
     if (outside > 0) {
-        printer.complain(command,
+        printer.complain(printer.label.overhanging(dots).value_or(command),
                          std::to_string(outside) + " dots lie outside the label and are cut off");
     }
     printer.sink().onLabel({printer.labels, sets, copies, picture});

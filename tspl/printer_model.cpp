@@ -72,6 +72,7 @@ std::string PrinterModel::obey(const Command& command) {
     }
     if (rule->obey != nullptr) {
         rule->obey(printer_, command);
+        printer_.label.noteDrawn(command);
     }
     return "";
 }

@@ -73,7 +73,7 @@ TEST(Circle, BeyondTheLabelIsCutOffAndComplainedOf) {
     RecordingSink sink;
     obeyStream("SIZE 8 dot,6 dot\nCLS\nCIRCLE 6,1,4,2\nPRINT 1\n", sink);
     EXPECT_EQ(sink.labels.at(0).rows.at(2), "......##");
-    EXPECT_EQ(sink.findings, Texts{"complaint 36 6 dots lie outside the label and are cut off"});
+    EXPECT_EQ(sink.findings, Texts{"complaint 21 6 dots lie outside the label and are cut off"});
 }
 
 TEST(Diagonal, GoesFromItsFirstDotToItsLastOne) {

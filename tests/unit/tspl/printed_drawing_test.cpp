@@ -97,13 +97,13 @@ TEST(Box, HasRoundCornersWhereARadiusIsGiven) {
 TEST(Box, BeyondTheLabelIsCutOffAndCounted) {
     const std::string start = "SIZE 8 dot,5 dot\nBOX ";
     EXPECT_EQ(findingsOf(start + "10,0,14,4,1\nPRINT 1"),
-              Texts{"complaint 33 12 dots lie outside the label and are cut off"});
+              Texts{"complaint 17 12 dots lie outside the label and are cut off"});
     EXPECT_EQ(findingsOf(start + "10,0,14,4,2\nPRINT 1"),
-              Texts{"complaint 33 16 dots lie outside the label and are cut off"});
+              Texts{"complaint 17 16 dots lie outside the label and are cut off"});
     EXPECT_EQ(findingsOf(start + "10,0,15,4,2\nPRINT 1"),
-              Texts{"complaint 33 20 dots lie outside the label and are cut off"});
+              Texts{"complaint 17 20 dots lie outside the label and are cut off"});
     EXPECT_EQ(findingsOf(start + "10,0,14,5,3\nPRINT 1"),
-              Texts{"complaint 33 20 dots lie outside the label and are cut off"});
+              Texts{"complaint 17 20 dots lie outside the label and are cut off"});
 }
 
 TEST(Box, OfTheLargestNumbersIsCutOff) {

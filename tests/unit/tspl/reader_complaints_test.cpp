@@ -143,20 +143,40 @@ TEST(Complaint, IsMadeOfTheBitmapsThatReachFarthest) {
 TEST(Complaint, IsMadeOfDotsOutsideTheLabel) {
     const std::string text = " dots lie outside the label and are cut off";
     EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBAR 7,0,3,2\nPRINT 1\n"),
-              Texts{"complaint 29 4" + text});
+              Texts{"complaint 17 4" + text});
     EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBITMAP 0,-1,1,1,0,\xFE\nPRINT 1\n"),
-              Texts{"complaint 37 1" + text});
+              Texts{"complaint 17 1" + text});
     EXPECT_EQ(findingsOf("SIZE 0.1,0.1\nBAR 20,0,1,1\nBAR 90,0,1,1\nPRINT 1\n"),
-              Texts{"complaint 39 2" + text});
+              Texts{"complaint 13 2" + text});
 }
 
 TEST(Complaint, OfDotsOutsideIsMadeForEachPrint) {
     EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBAR 7,0,3,2\nPRINT 1\nPRINT 1\nCLS\nPRINT 1\n"),
-              (Texts{"complaint 29 4 dots lie outside the label and are cut off",
-                     "complaint 37 4 dots lie outside the label and are cut off"}));
+              (Texts{"complaint 17 4 dots lie outside the label and are cut off",
+                     "complaint 17 4 dots lie outside the label and are cut off"}));
 }
 
 // 5 * 2^62 dots outside are more than the largest number; one dot lies on the label.
+TEST(Complaint, OfDotsOutsideIsMadeAtTheFirstCommandThatReachesOverAnEdge) {
+    const std::string start = "SIZE 8 dot,8 dot\nBAR 1,1,2,2\n";  // 29 bytes
+    for (const char* bar : {"BAR 7,1,2,1", "BAR 1,7,1,2", "BAR -1,1,2,1", "BAR 1,-1,1,2"}) {
+        const Texts findings =
+            findingsOf(start + bar + "\nBAR 3,3,1,1\nBAR 0,0,20,20\nCLS\n" + bar + "\nPRINT 1\n");
+        ASSERT_EQ(findings.size(), 1U);
+        const std::size_t behindCls = 29 + std::string(bar).size() + 1 + 12 + 14 + 4;
+        EXPECT_EQ(findings[0], "complaint " + std::to_string(behindCls) + " 1" +
+                                   " dots lie outside the label and are cut off");
+        EXPECT_TRUE(findingsOf(start + bar + "\nBAR 0,0,20,20\nPRINT 1\n")
+                        .at(0)
+                        .starts_with("complaint 29 "));
+    }
+}
+
+TEST(Complaint, OfDotsThatShiftMovesOverAnEdgeIsMadeAtPrint) {
+    EXPECT_EQ(findingsOf("SIZE 8 dot,8 dot\nBAR 7,0,1,1\nSHIFT 1,0\nPRINT 1\n"),
+              Texts{"complaint 39 1 dots lie outside the label and are cut off"});
+}
+
 TEST(Complaint, IsMadeOfAnyNumberOfDotsOutside) {
     std::string stream = "SIZE 8 dot,2 dot\nBAR 0,0,1,1\n";
     for (int i = 0; i < 5; ++i) {
