@@ -5,6 +5,7 @@
 #include <cmath>
 #include <map>
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include "tspl/dot_canvas.h"
@@ -80,8 +81,9 @@ struct PlacedGlyph {
 PlacedGlyph placed(const Font& font, std::int32_t width, std::int32_t height, char32_t character) {
     const Outline& outline = outlineOf(font.family, character);
     const EmSize em = emSize(font, outline, width, height);
-    return {SizedFont(outline.face.get(), em.width, em.height), outline.index,
-            rounded(em.height * outline.ascent)};
+    // Down to the row: rounded up, the base line would push an underscore out of a small cell.
+    const auto baseLine = static_cast<std::int32_t>(std::floor(em.height * outline.ascent));
+    return {SizedFont(outline.face.get(), em.width, em.height), outline.index, baseLine};
 }
 
 std::int32_t cellWidth(const Font& font, std::int32_t width, char32_t character) {
@@ -152,6 +154,25 @@ std::vector<DotRun> runsOf(const BitSurface& surface, const Area& area) {
     return runs;
 }
 
+Glyph drawn(const Font& font, std::int32_t width, std::int32_t height, char32_t character) {
+    Glyph result{advanceOf(font, width, height, character), {}};
+    if (isBlank(character)) {
+        return result;
+    }
+    const std::int32_t place = font.isScalable() ? width : result.advance;
+    const PlacedGlyph glyph = placed(font, place, height, character);
+    const Area area = font.isScalable() ? inkArea(glyph) : Area{0, 0, place, height};
+    BitSurface surface(area.width, area.height);
+    if (surface.isFine()) {
+        surface.draw(glyph, area);
+        result.runs = runsOf(surface, area);
+    }
+    return result;
+}
+
+using GlyphKey =
+    std::tuple<std::string, std::int32_t, std::int32_t, std::int32_t, std::int32_t, char32_t>;
+
 }  // namespace
 
 bool isBlank(char32_t character) {
@@ -173,20 +194,22 @@ std::int32_t advanceOf(const Font& font, std::int32_t width, std::int32_t height
     return std::max(rounded(emSize(font, outline, width, height).width * outline.advance), 0);
 }
 
-Glyph drawGlyph(const Font& font, std::int32_t width, std::int32_t height, char32_t character) {
-    Glyph result{advanceOf(font, width, height, character), {}};
-    if (isBlank(character)) {
-        return result;
+const Glyph& drawGlyph(const Font& font, std::int32_t width, std::int32_t height,
+                       char32_t character) {
+    constexpr std::size_t mostRuns = 1U << 16U;
+    thread_local std::map<GlyphKey, Glyph> glyphs;
+    thread_local std::size_t runs = 0;
+    const GlyphKey key{font.family, font.cellWidth, font.cellHeight, width, height, character};
+    if (const auto found = glyphs.find(key); found != glyphs.end()) {
+        return found->second;
     }
-    const std::int32_t place = font.isScalable() ? width : result.advance;
-    const PlacedGlyph glyph = placed(font, place, height, character);
-    const Area area = font.isScalable() ? inkArea(glyph) : Area{0, 0, place, height};
-    BitSurface surface(area.width, area.height);
-    if (surface.isFine()) {
-        surface.draw(glyph, area);
-        result.runs = runsOf(surface, area);
+    if (runs > mostRuns) {
+        glyphs.clear();
+        runs = 0;
     }
-    return result;
+    const Glyph& glyph = glyphs.emplace(key, drawn(font, width, height, character)).first->second;
+    runs += glyph.runs.size() + 1;
+    return glyph;
 }
 
 }  // namespace tspl

@@ -33,7 +33,9 @@ std::int32_t advanceOf(const Font& font, std::int32_t width, std::int32_t height
                        char32_t character);
 
 /// A character in the dots that its outline covers. Nothing lies outside of a cell; characters of
-/// scalable fonts may reach out of their place.
-Glyph drawGlyph(const Font& font, std::int32_t width, std::int32_t height, char32_t character);
+/// scalable fonts may reach out of their place. The last ones are kept: the glyph is valid up to
+/// the next call.
+const Glyph& drawGlyph(const Font& font, std::int32_t width, std::int32_t height,
+                       char32_t character);
 
 }  // namespace tspl

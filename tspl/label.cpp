@@ -82,7 +82,6 @@ void Label::clear() {
     canvas_.clear();
     widest_ = {};
     highest_ = {};
-    reach_ = {};
     drawn_.clear();
 }
 

@@ -7,7 +7,6 @@
 #include "tspl/command.h"
 #include "tspl/dot_canvas.h"
 #include "tspl/label_size.h"
-#include "tspl/reach.h"
 
 namespace tspl {
 
@@ -42,9 +41,6 @@ public:
     /// Takes notice of a bitmap with its upper left corner at (x, y); of one without dots it takes
     /// none.
     void noteBitmap(const BitmapHead& head, std::int64_t x, std::int64_t y);
-
-    /// How far commands other than BITMAP draw.
-    [[nodiscard]] Reach& reach() { return reach_; }
 
     /// Dots to the inch: the printer's when it is known, else what the bitmaps that are drawn tell,
     /// or those before, or 203.
@@ -84,7 +80,6 @@ private:
     DotCanvas canvas_;
     Overhang widest_;
     Overhang highest_;
-    Reach reach_;
     /// The commands that reached farther than all before them, with how far it was until then.
     struct Drawn {
         Place place;

@@ -22,10 +22,6 @@ void reportOverhang(Printer& printer, const LabelDots& dots) {
                                              ", the label is " + std::to_string(dots.height) +
                                              " rows high");
     }
-    for (const Reach::Overhang& overhang :
-         printer.label.reach().overhangs(dots.width, dots.height)) {
-        printer.complain(overhang.place, overhang.text);
-    }
 }
 
 void printLabel(Printer& printer, const Command& command, std::int32_t sets, std::int32_t copies) {

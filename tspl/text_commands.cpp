@@ -8,19 +8,16 @@
 namespace tspl {
 namespace {
 
-// Draws lines from the top of the frame on, each within `room` dots, and notes how far they reach.
-void drawLines(Printer& printer, const Command& command, const Lettering& lettering,
-               std::span<const std::u32string> lines, std::int64_t room, std::int64_t pitch) {
-    Area drawn;
+// Draws lines from the top of the frame on, each within `room` dots.
+void drawLines(Printer& printer, const Lettering& lettering, std::span<const std::u32string> lines,
+               std::int64_t room, std::int64_t pitch) {
     std::int64_t y = 0;
     for (const std::u32string& line : lines) {
         const std::int64_t x =
             startOfLine(lineWidth(lettering.font, line), room, lettering.alignment);
-        drawn = united(drawn, drawTextLine(printer.label.canvas(), lettering.frame, lettering.font,
-                                           x, y, line));
+        drawTextLine(printer.label.canvas(), lettering.frame, lettering.font, x, y, line);
         y += pitch;
     }
-    printer.label.reach().note(command, drawn);
 }
 
 // TEXT x,y,"font",rotation,x-multiplication,y-multiplication,[alignment,]"content"
@@ -29,8 +26,7 @@ void drawText(Printer& printer, const Command& command) {
     const std::size_t alignment = command.arguments.size() == withAlignment ? 6 : 0;
     const auto lettering = readLettering(printer, command, {2, alignment});
     if (lettering) {
-        drawLines(printer, command, *lettering, linesOf(lettering->text), 0,
-                  lineHeight(lettering->font));
+        drawLines(printer, *lettering, linesOf(lettering->text), 0, lineHeight(lettering->font));
     }
 }
 
@@ -116,7 +112,7 @@ void drawBlock(Printer& printer, const Command& command) {
                                       std::to_string(lines.size()) + " lines of its text");
         lines.resize(room);
     }
-    drawLines(printer, command, *lettering, lines, block->width, pitchOf(*block, lettering->font));
+    drawLines(printer, *lettering, lines, block->width, pitchOf(*block, lettering->font));
 }
 
 constexpr CommandRule rules[] = {

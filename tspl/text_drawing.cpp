@@ -1,13 +1,11 @@
 #include "tspl/text_drawing.h"
 
-#include <algorithm>
-
 #include "tspl/glyph.h"
 
 namespace tspl {
 namespace {
 
-bool isOf(const Area& area, const DotCanvas& canvas) {
+bool touches(const DotCanvas& canvas, const Area& area) {
     return area.x < canvas.width() && area.x + area.width > 0 && area.y < canvas.height() &&
            area.y + area.height > 0;
 }
@@ -22,25 +20,30 @@ Area reachOf(const SetFont& font, const Area& place) {
     return {place.x - wider, place.y - higher, place.width + 2 * wider, place.height + 2 * higher};
 }
 
-Glyph glyphOf(const SetFont& font, char32_t character) {
+const Glyph& glyphOf(const SetFont& font, char32_t character) {
     return font.font.isScalable()
                ? drawGlyph(font.font, font.x, font.y, character)
                : drawGlyph(font.font, font.font.cellWidth, font.font.cellHeight, character);
 }
 
-Area drawGlyphAt(DotCanvas& canvas, const TextFrame& frame, const SetFont& font, const Area& place,
+// A text may be a thousand times as long as the label: nobody counts the dots of large letters
+// beside it.
+bool isWorthDrawing(const DotCanvas& canvas, const TextFrame& frame, const SetFont& font,
+                    const Area& place) {
+    constexpr std::int32_t large = 256;
+    return !font.font.isScalable() || font.y <= large ||
+           touches(canvas, frame.onLabel(reachOf(font, place)));
+}
+
+void drawGlyphAt(DotCanvas& canvas, const TextFrame& frame, const SetFont& font, const Area& place,
                  char32_t character) {
     const bool isScalable = font.font.isScalable();
     const std::int64_t across = isScalable ? 1 : font.x;
     const std::int64_t down = isScalable ? 1 : font.y;
-    Area drawn;
     for (const DotRun& run : glyphOf(font, character).runs) {
-        const Area dots = frame.onLabel(
-            {place.x + run.x * across, place.y + run.y * down, run.length * across, down});
-        canvas.fill(dots);
-        drawn = united(drawn, dots);
+        canvas.fill(frame.onLabel(
+            {place.x + run.x * across, place.y + run.y * down, run.length * across, down}));
     }
-    return drawn;
 }
 
 }  // namespace
@@ -76,34 +79,20 @@ std::int64_t startOfLine(std::int64_t width, std::int64_t room, Alignment alignm
     return 0;
 }
 
-Area united(const Area& a, const Area& b) {
-    if (a.width <= 0 || a.height <= 0) {
-        return b;
-    }
-    if (b.width <= 0 || b.height <= 0) {
-        return a;
-    }
-    const std::int64_t left = std::min(a.x, b.x);
-    const std::int64_t top = std::min(a.y, b.y);
-    return {left, top, std::max(a.x + a.width, b.x + b.width) - left,
-            std::max(a.y + a.height, b.y + b.height) - top};
-}
-
-Area drawTextLine(DotCanvas& canvas, const TextFrame& frame, const SetFont& font, std::int64_t x,
+void drawTextLine(DotCanvas& canvas, const TextFrame& frame, const SetFont& font, std::int64_t x,
                   std::int64_t y, std::u32string_view line) {
-    Area drawn;
     for (const char32_t character : line) {
         const Area place{x, y, advanceOf(font, character), lineHeight(font)};
         x += place.width;
         if (isBlank(character)) {
             continue;
         }
-        // A text may be a thousand times as long as the label: what lies beside it is not drawn.
-        const bool isOnCanvas = isOf(frame.onLabel(reachOf(font, place)), canvas);
-        drawn = united(drawn, isOnCanvas ? drawGlyphAt(canvas, frame, font, place, character)
-                                         : frame.onLabel(place));
+        if (isWorthDrawing(canvas, frame, font, place)) {
+            drawGlyphAt(canvas, frame, font, place, character);
+        } else {
+            canvas.fill(frame.onLabel(place));
+        }
     }
-    return drawn;
 }
 
 }  // namespace tspl

@@ -38,13 +38,10 @@ std::int64_t lineWidth(const SetFont& font, std::u32string_view line);
 /// them. With a room of 0 it stands to a point.
 std::int64_t startOfLine(std::int64_t width, std::int64_t room, Alignment alignment);
 
-/// The smallest area that holds both; one without an extent counts for nothing.
-Area united(const Area& a, const Area& b);
-
 /// Burns the dots of a line of text. Its upper left corner lies in the frame at (x, y), each
-/// character moves on by what `advanceOf` says. Returns the area of the label, or beyond it, that
-/// its dots fill: 0 by 0 dots for blanks. Line ends in the text draw nothing.
-Area drawTextLine(DotCanvas& canvas, const TextFrame& frame, const SetFont& font, std::int64_t x,
+/// character moves on by what `advanceOf` says. Line ends in the text draw nothing. Dots beside
+/// the canvas are counted by it, those of letters more than 256 dots high only about.
+void drawTextLine(DotCanvas& canvas, const TextFrame& frame, const SetFont& font, std::int64_t x,
                   std::int64_t y, std::u32string_view line);
 
 }  // namespace tspl

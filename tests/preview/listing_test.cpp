@@ -19,7 +19,7 @@ const std::string everyLine =
     "\r\n"                                    // 58
     "BITMAP 0, 2, 1, 1, 1,\x0f"               // 60, data at 81
     "\n"                                      // 82
-    "TEXT 10,10,\"3\",0,1,1,\"a, b\\c\"\r\n"  // 83
+    "TLC39 10,0,\"3\",0,1,1,\"a, b\\c\"\r\n"  // 83
     "NONSENSE \x01\xff\r\n"                   // 114
     "SET TEAR ON\r\n"                         // 127
     "\x1b!?"                                  // 140
@@ -36,7 +36,7 @@ TEST(List, HasALineForEveryCommandWithItsOffset) {
               "        20  cls\n"
               "        25  BITMAP 0,0,2,8,0,  (16 x 8 dots, 16 bytes, 16.4 % of the dots burnt)\n"
               "        60  BITMAP 0,2,1,1,1,  (8 x 1 dots, 1 byte, 50.0 % of the dots burnt)\n"
-              "        83  TEXT 10,10,\"3\",0,1,1,\"a, b\\x5cc\"  [not drawn]\n"
+              "        83  TLC39 10,0,\"3\",0,1,1,\"a, b\\x5cc\"  [not drawn]\n"
               "       114  NONSENSE \\x01\\xff  [unknown]\n"
               "       127  SET TEAR ON\n"
               "       140  \\x1b!?  [not part of the picture]\n"
@@ -44,7 +44,7 @@ TEST(List, HasALineForEveryCommandWithItsOffset) {
               "       154  BITMAP 0,0,4,4,0,  (32 x 4 dots, 3 of 16 bytes, 58.3 % of the dots "
               "burnt)\n");
     EXPECT_EQ(result.standardError,
-              "standard input: byte 83: TEXT is not drawn\n"
+              "standard input: byte 83: TLC39 is not drawn\n"
               "standard input: byte 114: unknown command: NONSENSE \\x01\\xff\n"
               "standard input: byte 154: BITMAP is cut short: 3 of 16 bytes are there\n");
 }
@@ -108,12 +108,12 @@ TEST(JsonList, HasTheSameLinesAsObjects) {
            {"receivedBytes", 1},
            {"burntDots", 4},
            {"burntShare", 0.5}}}},
-        {{"type", "remark"}, {"offset", 83}, {"text", "TEXT is not drawn"}},
+        {{"type", "remark"}, {"offset", 83}, {"text", "TLC39 is not drawn"}},
         {{"type", "command"},
          {"offset", 83},
-         {"command", "TEXT"},
-         {"arguments", {"10", "10", "\"3\"", "0", "1", "1", "\"a, b\\x5cc\""}},
-         {"text", "TEXT 10,10,\"3\",0,1,1,\"a, b\\x5cc\""},
+         {"command", "TLC39"},
+         {"arguments", {"10", "0", "\"3\"", "0", "1", "1", "\"a, b\\x5cc\""}},
+         {"text", "TLC39 10,0,\"3\",0,1,1,\"a, b\\x5cc\""},
          {"remark", "not drawn"}},
         {{"type", "complaint"}, {"offset", 114}, {"text", "unknown command: NONSENSE \\x01\\xff"}},
         {{"type", "command"},
@@ -171,7 +171,7 @@ TEST(JsonList, HasTheSameLinesAsObjects) {
 TEST(JsonList, IsAsciiForEveryByteAndEveryLineEnd) {
     std::string stream;
     for (int byte = 0; byte < 256; ++byte) {
-        stream += "TEXT 1,1,\"" + std::string(1, static_cast<char>(byte)) + "\",0,1,1,\"x\"\r\n";
+        stream += "TLC39 1,1,\"" + std::string(1, static_cast<char>(byte)) + "\",0,1,1,\"x\"\r\n";
         stream += std::string(1, static_cast<char>(byte)) + "\n";
     }
     const TemporaryFolder folder;

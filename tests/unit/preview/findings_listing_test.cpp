@@ -22,23 +22,23 @@ protected:
 };
 
 TEST_F(Findings, StandWithTheirSourceAndTheirOffset) {
-    EXPECT_EQ(listed("WHAT\nTEXT 1,2,3,4,5,6\nPRINT 0\n", true),
+    EXPECT_EQ(listed("WHAT\nTLC39 1,20,3,4,5\nPRINT 0\n", true),
               "label.tspl: byte 0: unknown command: WHAT\n"
-              "label.tspl: byte 5: TEXT is not drawn\n"
+              "label.tspl: byte 5: TLC39 is not drawn\n"
               "label.tspl: byte 22: PRINT 0 prints nothing\n");
     EXPECT_TRUE(hasComplaints_);
 }
 
 TEST_F(Findings, LeaveRemarksOutOnRequest) {
-    EXPECT_EQ(listed("WHAT\nTEXT 1,2,3,4,5,6\n", false),
+    EXPECT_EQ(listed("WHAT\nTLC39 1,20,3,4,5\n", false),
               "label.tspl: byte 0: unknown command: WHAT\n");
     EXPECT_TRUE(hasComplaints_);
 }
 
 TEST_F(Findings, AreNoComplaintsWhenTheyAreRemarks) {
-    EXPECT_EQ(listed("TEXT 1,2,3,4,5,6\n", true), "label.tspl: byte 0: TEXT is not drawn\n");
+    EXPECT_EQ(listed("TLC39 1,20,3,4,5\n", true), "label.tspl: byte 0: TLC39 is not drawn\n");
     EXPECT_FALSE(hasComplaints_);
-    EXPECT_EQ(listed("TEXT 1,2,3,4,5,6\n", false), "");
+    EXPECT_EQ(listed("TLC39 1,20,3,4,5\n", false), "");
     EXPECT_FALSE(hasComplaints_);
 }
 

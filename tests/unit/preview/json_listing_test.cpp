@@ -76,12 +76,13 @@ TEST(JsonListing, SumsUpBitmaps) {
 }
 
 TEST(JsonListing, TellsFindingsBeforeTheirCommands) {
-    const auto objects = objectsOf("WHAT\nTEXT 1,2,3,4,5,6\n");
+    const auto objects = objectsOf("WHAT\nTLC39 1,20,3,4,5\n");
     ASSERT_EQ(objects.size(), 4U);
     EXPECT_EQ(objects[0],
               (json{{"type", "complaint"}, {"offset", 0}, {"text", "unknown command: WHAT"}}));
     EXPECT_EQ(objects[1]["remark"], "unknown");
-    EXPECT_EQ(objects[2], (json{{"type", "remark"}, {"offset", 5}, {"text", "TEXT is not drawn"}}));
+    EXPECT_EQ(objects[2],
+              (json{{"type", "remark"}, {"offset", 5}, {"text", "TLC39 is not drawn"}}));
     EXPECT_EQ(objects[3]["remark"], "not drawn");
 }
 
@@ -110,9 +111,9 @@ TEST(JsonListing, HoldsTheLargestNumbers) {
 }
 
 TEST(JsonListing, ShowsOtherBytesAsTheirNumbers) {
-    const auto objects = objectsOf("TEXT 1,2,3,4,5,\"\xE4\\\"");
+    const auto objects = objectsOf("TLC39 1,20,3,4,5,\"\xE4\\\"");
     ASSERT_EQ(objects.size(), 2U);
-    EXPECT_EQ(objects[1]["text"], "TEXT 1,2,3,4,5,\"\\xe4\\x5c\"");
+    EXPECT_EQ(objects[1]["text"], "TLC39 1,20,3,4,5,\"\\xe4\\x5c\"");
     EXPECT_EQ(objects[1]["arguments"][5], "\"\\xe4\\x5c\"");
 }
 

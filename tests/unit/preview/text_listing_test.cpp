@@ -36,9 +36,9 @@ TEST(TextListing, AddsRemarks) {
 }
 
 TEST(TextListing, ShowsOtherBytesAsTheirNumbers) {
-    EXPECT_EQ(listed("TEXT 1,2,3,4,5,\"\xE4\t\\\"\n\x1b!S"),
-              "         0  TEXT 1,2,3,4,5,\"\\xe4\\x09\\x5c\"  [not drawn]\n"
-              "        21  \\x1b!S  [not part of the picture]\n");
+    EXPECT_EQ(listed("TLC39 1,2,30,\"\xE4\t\\\"\n\x1b!S"),
+              "         0  TLC39 1,2,30,\"\\xe4\\x09\\x5c\"  [not drawn]\n"
+              "        19  \\x1b!S  [not part of the picture]\n");
 }
 
 TEST(TextListing, TakesOffsetsOfAnyLength) {

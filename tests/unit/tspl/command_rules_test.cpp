@@ -40,14 +40,14 @@ constexpr Expected sCommands[] = {
     {"DENSITY", 1, 1, sInteger, Effect::Obeyed},
     {"SET", 1, anyNumber, sAny, Effect::Obeyed},
     {"COUNTRY", 1, 1, sAny, Effect::NoMark},
-    {"CODEPAGE", 1, 1, sAny, Effect::NoMark},
+    {"CODEPAGE", 1, 1, sAny, Effect::Obeyed},
     {"CLS", 0, 0, sAny, Effect::Obeyed},
     {"BAR", 4, 4, sInteger, Effect::Obeyed},
     {"BOX", 5, 6, sInteger, Effect::Obeyed},
     {"ERASE", 4, 4, sInteger, Effect::Obeyed},
     {"REVERSE", 4, 4, sInteger, Effect::Obeyed},
-    {"TEXT", 6, anyNumber, sAny, Effect::NotDrawn},
-    {"BLOCK", 8, anyNumber, sAny, Effect::NotDrawn},
+    {"TEXT", 7, 8, sAny, Effect::Obeyed},
+    {"BLOCK", 9, 12, sAny, Effect::Obeyed},
     {"BARCODE", 9, 10, sAny, Effect::Obeyed},
     {"QRCODE", 7, 11, sAny, Effect::Obeyed},
     {"DMATRIX", 5, 11, sAny, Effect::Obeyed},
@@ -173,7 +173,7 @@ TEST(FindFault, TellsTheNumberOfArgumentsThatACommandTakes) {
     EXPECT_EQ(faultOf("FEED 1,2"), "FEED takes 1 argument, not 2");
     EXPECT_EQ(faultOf("REFERENCE 4"), "REFERENCE takes 2 arguments, not 1");
     EXPECT_EQ(faultOf("SHIFT 1,2,3"), "SHIFT takes 1 to 2 arguments, not 3");
-    EXPECT_EQ(faultOf("TEXT 1"), "TEXT takes 6 arguments or more, not 1");
+    EXPECT_EQ(faultOf("TEXT 1"), "TEXT takes 7 to 8 arguments, not 1");
 }
 
 TEST(FindFault, ShowsTheArgumentThatACommandDoesNotTake) {
@@ -199,7 +199,7 @@ TEST(FindFault, TakesANegativeOffset) {
 }
 
 TEST(FindFault, TakesAnyNumberOfArgumentsWhereThereIsNoEnd) {
-    EXPECT_EQ(faultOf(lineOf("TEXT", 100, "1")), "");
+    EXPECT_EQ(faultOf(lineOf("TLC39", 100, "1")), "");
     EXPECT_EQ(faultOf(lineOf("OUT", 5000, "1")), "");
 }
 

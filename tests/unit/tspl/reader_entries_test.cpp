@@ -43,7 +43,7 @@ TEST(Entries, OfBlankLinesCountThem) {
 TEST(Entries, RemarkOnWhatIsNotObeyed) {
     EXPECT_EQ(remarkOf("CLS"), "");
     EXPECT_EQ(remarkOf("FEED 1"), "");
-    EXPECT_EQ(remarkOf("TEXT 1,2,3,4,5,6"), "not drawn");
+    EXPECT_EQ(remarkOf("TLC39 1,20,3,4,5"), "not drawn");
     EXPECT_EQ(remarkOf("WHAT"), "unknown");
     EXPECT_EQ(remarkOf("CLS 1"), "not understood");
     EXPECT_EQ(remarkOf("BITMAP 1"), "not understood");
