@@ -3,7 +3,9 @@
 #include <cairo-ft.h>
 #include <fontconfig/fontconfig.h>
 
+#include <algorithm>
 #include <map>
+#include <vector>
 
 #include "tspl/utf8.h"
 
@@ -13,6 +15,8 @@ namespace {
 struct FontconfigDeleter {
     void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
     void operator()(FcCharSet* characters) const { FcCharSetDestroy(characters); }
+    void operator()(FcObjectSet* objects) const { FcObjectSetDestroy(objects); }
+    void operator()(FcFontSet* fonts) const { FcFontSetDestroy(fonts); }
 };
 
 template <class Type>
@@ -65,11 +69,40 @@ bool hasCharacter(cairo_font_face_t* face, char32_t character) {
     return SizedFont(face, 1, 1).glyphOf(character) != 0;
 }
 
-// What has been found for a family: the face for most characters, and the last one for others.
-struct FacesOfFamily {
-    FacePointer usual;
-    FacePointer other;
-};
+using CharactersPointer = FontconfigPointer<FcCharSet>;
+
+// The characters that any font of the system has.
+CharactersPointer charactersOfSystem() {
+    CharactersPointer characters(FcCharSetCreate());
+    const PatternPointer scalable(FcPatternCreate());
+    FcPatternAddBool(scalable.get(), FC_SCALABLE, FcTrue);
+    const FontconfigPointer<FcObjectSet> wanted(FcObjectSetBuild(FC_CHARSET, nullptr));
+    const FontconfigPointer<FcFontSet> fonts(FcFontList(nullptr, scalable.get(), wanted.get()));
+    for (int i = 0; fonts && i < fonts->nfont; ++i) {
+        FcCharSet* ofFont = nullptr;
+        if (FcPatternGetCharSet(fonts->fonts[i], FC_CHARSET, 0, &ofFont) == FcResultMatch) {
+            FcCharSetMerge(characters.get(), ofFont, nullptr);
+        }
+    }
+    return characters;
+}
+
+// To look for a character that no font has would take as long for each as for one that some have.
+bool systemHas(char32_t character) {
+    thread_local const CharactersPointer characters = charactersOfSystem();
+    return FcCharSetHasChar(characters.get(), character) == FcTrue;
+}
+
+// What has been found for a family: the face for most characters before those for others.
+using Faces = std::vector<FacePointer>;
+
+// Null where none of them has the character.
+cairo_font_face_t* faceAmong(const Faces& faces, char32_t character) {
+    const auto found = std::find_if(faces.begin(), faces.end(), [&](const FacePointer& face) {
+        return hasCharacter(face.get(), character);
+    });
+    return found == faces.end() ? nullptr : found->get();
+}
 
 CairoPointer<cairo_scaled_font_t> scaled(cairo_font_face_t* face, double width, double height) {
     cairo_matrix_t size{};
@@ -119,18 +152,17 @@ cairo_font_extents_t SizedFont::extents() const {
 }
 
 cairo_font_face_t* findFace(const std::string& family, char32_t character) {
-    thread_local std::map<std::string, FacesOfFamily> families;
-    FacesOfFamily& faces = families[family];
-    if (!faces.usual) {
-        faces.usual = loadFace(family, U' ');
+    thread_local std::map<std::string, Faces> families;
+    Faces& faces = families[family];
+    if (faces.empty()) {
+        faces.push_back(loadFace(family, U' '));
     }
-    if (hasCharacter(faces.usual.get(), character)) {
-        return faces.usual.get();
+    cairo_font_face_t* face = faceAmong(faces, character);
+    if (face == nullptr && systemHas(character)) {
+        faces.push_back(loadFace(family, character));
+        face = faceAmong(faces, character);
     }
-    if (!faces.other || !hasCharacter(faces.other.get(), character)) {
-        faces.other = loadFace(family, character);
-    }
-    return hasCharacter(faces.other.get(), character) ? faces.other.get() : faces.usual.get();
+    return face != nullptr ? face : faces.front().get();
 }
 
 }  // namespace tspl

@@ -49,7 +49,7 @@ private:
 
 /// The outline font of this system by the name of its family that has a character. Where that
 /// family has none or is missing, another one that has; any at all when none does. Faces are
-/// kept: to find one takes milliseconds. Valid up to the next call.
+/// kept, as to find one takes milliseconds; valid as long as the thread lives.
 cairo_font_face_t* findFace(const std::string& family, char32_t character);
 
 }  // namespace tspl

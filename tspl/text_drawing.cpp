@@ -30,7 +30,7 @@ const Glyph& glyphOf(const SetFont& font, char32_t character) {
 // beside it.
 bool isWorthDrawing(const DotCanvas& canvas, const TextFrame& frame, const SetFont& font,
                     const Area& place) {
-    constexpr std::int32_t large = 256;
+    constexpr std::int32_t large = 64;
     return !font.font.isScalable() || font.y <= large ||
            touches(canvas, frame.onLabel(reachOf(font, place)));
 }

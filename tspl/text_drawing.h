@@ -40,7 +40,7 @@ std::int64_t startOfLine(std::int64_t width, std::int64_t room, Alignment alignm
 
 /// Burns the dots of a line of text. Its upper left corner lies in the frame at (x, y), each
 /// character moves on by what `advanceOf` says. Line ends in the text draw nothing. Dots beside
-/// the canvas are counted by it, those of letters more than 256 dots high only about.
+/// the canvas are counted by it, those of letters more than 64 dots high only about.
 void drawTextLine(DotCanvas& canvas, const TextFrame& frame, const SetFont& font, std::int64_t x,
                   std::int64_t y, std::u32string_view line);
 
