@@ -6,6 +6,7 @@
 
 #include "tspl/code128.h"
 #include "tspl/code_arguments.h"
+#include "tspl/gs1_content.h"
 #include "tspl/text.h"
 
 namespace tspl {
@@ -84,24 +85,10 @@ CodeSymbol encodeArticle(const BarcodeType& type, const std::string& content) {
     return encodePlain(type, isWhole ? withoutCheckDigit(content) : content);
 }
 
-// A printer leaves it to the stream whether the numbers behind the identifiers are sound.
 CodeSymbol encodeGs1(const BarcodeType& type, const std::string& content) {
     CodeRequest request;
     request.symbology = type.symbology;
-    request.inputMode = GS1_MODE | GS1NOCHECK_MODE;
-    if (content.find('(') != std::string::npos) {
-        request.inputMode |= GS1PARENS_MODE;
-        return encode(request, content);
-    }
-    constexpr std::size_t identifierDigits = 2;
-    if (content.size() <= identifierDigits || !isDigits(content.substr(0, identifierDigits))) {
-        throw CodeFault(std::string(type.name) + " begins with an application identifier, not \"" +
-                        printable(content) + '"');
-    }
-    CodeSymbol symbol = encode(request, "[" + content.substr(0, identifierDigits) + "]" +
-                                            content.substr(identifierDigits));
-    symbol.text = content;
-    return symbol;
+    return encode(request, gs1Content(request, content));
 }
 
 CodeSymbol encodeManual128(const BarcodeType& /*type*/, const std::string& content) {

@@ -65,7 +65,7 @@ std::string contentFrom(const std::string& argument) {
     const bool isVariable =
         !argument.empty() && (isLetter(argument.front()) || argument.front() == '@');
     if (isVariable) {
-        throw UnknownContent("the value of " + printable(argument) + " is not known");
+        throw CodeNotDrawn("the value of " + printable(argument) + " is not known");
     }
     if (!argument.starts_with('"')) {
         throw CodeFault("the content is not within quotation marks: " + shown(argument));
@@ -74,7 +74,7 @@ std::string contentFrom(const std::string& argument) {
     std::string text = takeText(rest);
     rest = trimmed(rest);
     if (rest.starts_with('+')) {
-        throw UnknownContent("the value of " + printable(rest.substr(1)) + " is not known");
+        throw CodeNotDrawn("the value of " + printable(rest.substr(1)) + " is not known");
     }
     if (!rest.empty()) {
         throw CodeFault("there is text behind the closing quotation mark: " + shown(rest));
@@ -92,12 +92,15 @@ std::string nameFrom(const std::string& argument) {
                             : std::string_view(argument));
 }
 
-void requireArguments(const Command& command, std::size_t fewest, std::size_t most) {
-    const std::size_t count = command.arguments.size();
-    if (count < fewest || count > most) {
-        throw CodeFault("it takes " + std::to_string(fewest) + " to " + std::to_string(most) +
-                        " arguments, not " + std::to_string(count));
+CodeOption optionFrom(const std::string& argument) {
+    if (argument.empty()) {
+        return {};
     }
+    return {upperCase(argument).front(), argument.substr(1)};
+}
+
+CodeFault unknownOption(const std::string& argument) {
+    return CodeFault("it does not take " + shown(argument));
 }
 
 }  // namespace tspl

@@ -15,8 +15,8 @@ public:
     using runtime_error::runtime_error;
 };
 
-/// Why a code of a sound stream is not drawn: what it shows is known to the printer alone.
-class UnknownContent : public CodeFault {
+/// Why a code of a sound stream is not drawn.
+class CodeNotDrawn : public CodeFault {
 public:
     using CodeFault::CodeFault;
 };
@@ -31,14 +31,22 @@ int rotationFrom(const std::string& argument);
 
 /// Reads what stands between two quotation marks, of which \["] stands for one of the text, \[R]
 /// for a carriage return and \[L] for a line feed. Throws CodeFault when the marks are missing,
-/// when anything follows them or when nothing is between them, and UnknownContent for a variable.
+/// when anything follows them or when nothing is between them, and CodeNotDrawn for a variable.
 std::string contentFrom(const std::string& argument);
 
 /// The same of a word that is a name, such as the type of a code, in capitals. The marks may be
 /// missing.
 std::string nameFrom(const std::string& argument);
 
-/// Throws CodeFault when the command has fewer or more arguments.
-void requireArguments(const Command& command, std::size_t fewest, std::size_t most);
+/// An option of a code: a letter, as a capital, and what follows it.
+struct CodeOption {
+    char letter = '\0';  ///< NUL for an empty argument
+    std::string value;
+};
+
+CodeOption optionFrom(const std::string& argument);
+
+/// The fault of an option that a code does not have.
+CodeFault unknownOption(const std::string& argument);
 
 }  // namespace tspl

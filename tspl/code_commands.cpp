@@ -10,8 +10,8 @@ template <Obey draw>
 void drawCode(Printer& printer, const Command& command) {
     try {
         draw(printer, command);
-    } catch (const UnknownContent& unknown) {
-        printer.remark(command, command.name + " is not drawn: " + unknown.what());
+    } catch (const CodeNotDrawn& reason) {
+        printer.remark(command, command.name + " is not drawn: " + reason.what());
     } catch (const CodeFault& fault) {
         printer.complain(command, command.name + ": " + fault.what());
     }
@@ -23,12 +23,12 @@ constexpr CommandRule rules[] = {
     {"BARCODE", 9, 10, sAny, Effect::Obeyed, drawCode<drawBarcode>},
     {"QRCODE", 7, 11, sAny, Effect::Obeyed, drawCode<drawQrCode>},
     {"DMATRIX", 5, 11, sAny, Effect::Obeyed, drawCode<drawDataMatrix>},
-    {"PDF417", 4, anyNumber, sAny, Effect::NotDrawn},
-    {"MPDF417", 4, anyNumber, sAny, Effect::NotDrawn},
-    {"AZTEC", 4, anyNumber, sAny, Effect::NotDrawn},
-    {"MAXICODE", 3, anyNumber, sAny, Effect::NotDrawn},
-    {"CODABLOCK", 4, anyNumber, sAny, Effect::NotDrawn},
-    {"RSS", 4, anyNumber, sAny, Effect::NotDrawn},
+    {"PDF417", 6, anyNumber, sAny, Effect::Obeyed, drawCode<drawPdf417>},
+    {"MPDF417", 4, 7, sAny, Effect::Obeyed, drawCode<drawMicroPdf417>},
+    {"AZTEC", 4, 10, sAny, Effect::Obeyed, drawCode<drawAztec>},
+    {"MAXICODE", 4, 8, sAny, Effect::Obeyed, drawCode<drawMaxiCode>},
+    {"CODABLOCK", 4, 6, sAny, Effect::Obeyed, drawCode<drawCodablock>},
+    {"RSS", 7, 8, sAny, Effect::Obeyed, drawCode<drawDataBar>},
     {"TLC39", 4, anyNumber, sAny, Effect::NotDrawn},
 };
 

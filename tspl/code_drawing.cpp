@@ -5,18 +5,6 @@
 #include "tspl/code_arguments.h"
 
 namespace tspl {
-namespace {
-
-std::vector<std::int64_t> scaledRuns(const CodeSymbol::Row& row, std::int64_t width) {
-    std::vector<std::int64_t> widths = runsOf(row);
-    for (std::int64_t& run : widths) {
-        run *= width;
-    }
-    return widths;
-}
-
-}  // namespace
-
 void CodeDrawing::shift(std::int64_t x, std::int64_t y) {
     shiftX_ = x;
     shiftY_ = y;
@@ -95,6 +83,14 @@ std::vector<std::int64_t> runsOf(const CodeSymbol::Row& row) {
         ++runs.back();
     }
     return runs;
+}
+
+std::vector<std::int64_t> scaledRuns(const CodeSymbol::Row& row, std::int64_t width) {
+    std::vector<std::int64_t> widths = runsOf(row);
+    for (std::int64_t& run : widths) {
+        run *= width;
+    }
+    return widths;
 }
 
 }  // namespace tspl

@@ -53,4 +53,7 @@ CodeDrawing drawingOf(Printer& printer, const Command& command, int rotation);
 /// is 0 where the row begins with a space.
 std::vector<std::int64_t> runsOf(const CodeSymbol::Row& row);
 
+/// The same in dots, for modules of `width` dots.
+std::vector<std::int64_t> scaledRuns(const CodeSymbol::Row& row, std::int64_t width);
+
 }  // namespace tspl

@@ -43,6 +43,7 @@ SymbolPointer prepared(const CodeRequest& request) {
     symbol->option_1 = request.option1;
     symbol->option_2 = request.option2;
     symbol->option_3 = request.option3;
+    symbol->output_options = request.outputOptions;
     setPrimary(*symbol, request.primary);
     return symbol;
 }

@@ -31,6 +31,7 @@ struct CodeRequest {
     int option1 = -1;
     int option2 = 0;
     int option3 = 0;
+    int outputOptions = 0;
     std::string primary;  ///< the part of the message that only some codes have
 };
 

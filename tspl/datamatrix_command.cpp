@@ -38,8 +38,8 @@ struct MatrixOptions {
 };
 
 void readOption(MatrixOptions& options, const std::string& argument) {
-    const std::string number = argument.empty() ? argument : argument.substr(1);
-    switch (argument.empty() ? '\0' : upperCase(argument).front()) {
+    const auto [letter, number] = optionFrom(argument);
+    switch (letter) {
         case 'C':
             options.escape = static_cast<char>(numberFrom(number, 0, 255, "the escape behind c"));
             break;
@@ -53,7 +53,7 @@ void readOption(MatrixOptions& options, const std::string& argument) {
             options.rectangular = numberFrom(number, 0, 1, "the shape behind a") == 1;
             break;
         default:
-            throw CodeFault("it does not take \"" + printable(argument) + '"');
+            throw unknownOption(argument);
     }
 }
 

@@ -36,9 +36,8 @@ bool isManual(const std::string& argument) {
 
 // Options are a letter and a number, in any order.
 void readOption(QrOptions& options, const std::string& argument) {
-    const std::string name = upperCase(argument);
-    const std::string number = name.empty() ? name : name.substr(1);
-    switch (name.empty() ? '\0' : name.front()) {
+    const auto [letter, number] = optionFrom(argument);
+    switch (letter) {
         case 'J':
             options.justification = numberFrom(number, 1, 9, "the justification behind J");
             break;
@@ -49,7 +48,7 @@ void readOption(QrOptions& options, const std::string& argument) {
             options.mask = numberFrom(number, 0, 8, "the mask behind S");
             break;
         default:
-            throw CodeFault("it does not take \"" + printable(argument) + '"');
+            throw unknownOption(argument);
     }
 }
 

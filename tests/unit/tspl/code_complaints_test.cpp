@@ -57,7 +57,7 @@ TEST(CodeComplaint, IsMadeOfContentThatTheCodeCannotHold) {
     EXPECT_EQ(findingsOf(barcode("ITF14", "12345678901230")),
               complaint("BARCODE: the check digit is 1, not 0"));
     EXPECT_EQ(findingsOf(barcode("EAN128", "AB")),
-              complaint("BARCODE: EAN128 begins with an application identifier, not \"AB\""));
+              complaint("BARCODE: the content begins with an application identifier, not \"AB\""));
     EXPECT_EQ(findingsOf(barcode("39", std::string(20000, 'A'))),
               complaint("BARCODE: no code holds 20000 bytes"));
     EXPECT_EQ(findingsOf("QRCODE 1,2,H,1,A,0,\"" + std::string(5000, 'a') + "\"").size(), 1U);
