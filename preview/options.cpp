@@ -63,6 +63,7 @@ const CLI::Validator sLabels(
 struct RawOptions {
     std::vector<std::string> files;
     std::string prefix;
+    std::string pdf;
     std::string labels;
     bool follow = false;
     bool terminal = false;
@@ -80,6 +81,9 @@ void describe(CLI::App& app, RawOptions& raw) {
     app.add_option("-o,--output", raw.prefix,
                    "Write the pictures as PREFIX-1.png, PREFIX-2.png and so on")
         ->type_name("PREFIX")
+        ->check(sNotEmpty);
+    app.add_option("--pdf", raw.pdf, "Write the labels at their true size to a PDF file")
+        ->type_name("PDF")
         ->check(sNotEmpty);
     app.add_option("--label", raw.labels, "Show label N only, or labels N-M")
         ->type_name("N[-M]")
@@ -133,8 +137,11 @@ Options finished(const RawOptions& raw, bool prefixGiven) {
     options.listing = listingOf(raw);
     options.follows = raw.follow;
     options.showsOnTerminal = raw.terminal;
-    options.writesPictures =
-        prefixGiven || (options.listing == Listing::None && !options.showsOnTerminal);
+    if (!raw.pdf.empty()) {
+        options.pdf = raw.pdf;
+    }
+    options.writesPictures = prefixGiven || (options.listing == Listing::None &&
+                                             !options.showsOnTerminal && !options.pdf);
     options.labels = parseLabelRange(raw.labels);
     options.printer.onesBurn = raw.burn == "ones";
     if (raw.dpi != 0) {

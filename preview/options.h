@@ -34,6 +34,8 @@ struct Options {
     bool writesPictures = true;
     /// Whether to show pictures as characters on standard output.
     bool showsOnTerminal = false;
+    /// Name of the PDF file to write.
+    std::optional<std::string> pdf;
     /// The labels to show; all of them without.
     std::optional<LabelRange> labels;
     /// Whether to read on where a file ends.

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <vector>
 
+#include "preview/packed_row.h"
 #include "preview/unfinished_file.h"
 
 namespace preview {
@@ -59,16 +60,6 @@ void PngWriter::writeHeader(const tspl::LabelPicture& picture) {
     png_write_info(png_, info_);
 }
 
-void packRow(const tspl::LabelPicture& picture, std::int64_t y, std::vector<png_byte>& row) {
-    std::fill(row.begin(), row.end(), png_byte{0xFF});
-    for (std::int64_t x = 0; x < picture.width(); ++x) {
-        if (picture.burns(x, y)) {
-            auto& byte = row[static_cast<std::size_t>(x / 8)];
-            byte = static_cast<png_byte>(byte & ~(0x80U >> static_cast<unsigned>(x % 8)));
-        }
-    }
-}
-
 // Between setjmp and a jump back nothing may be built that has a destructor: the row belongs to
 // the caller.
 bool PngWriter::write(std::FILE* file, const tspl::LabelPicture& picture,
@@ -87,7 +78,7 @@ bool PngWriter::write(std::FILE* file, const tspl::LabelPicture& picture,
 }
 
 std::string writeTo(std::FILE* file, const tspl::LabelPicture& picture) {
-    std::vector<png_byte> row(static_cast<std::size_t>((picture.width() + 7) / 8));
+    std::vector<png_byte> row(packedBytes(picture));
     PngWriter writer;
     errno = 0;
     if (!writer.isReady()) {

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 #include <string>
 
 #include "preview/ending_signals.h"
@@ -16,13 +17,22 @@ namespace {
 
 class PreviewJob {
 public:
-    explicit PreviewJob(const Options& options) : options_(options) {}
+    explicit PreviewJob(const Options& options) : options_(options) {
+        if (options.pdf) {
+            pdf_ = std::make_unique<PdfPages>(*options.pdf, std::cerr);
+        }
+    }
 
     int run() {
         for (const Source& source : options_.sources) {
             if (isWritable()) {
                 show(source);
             }
+        }
+        if (pdf_ && isWritable()) {
+            pdf_->complete(options_.listing == Listing::None ? &output_ : nullptr);
+            output_.flush();
+            failed_ = failed_ || pdf_->hasFailed();
         }
         if (!isWritable()) {
             fail("standard output", buffer_.error());
@@ -53,7 +63,7 @@ private:
     }
 
     void showAll(const Source& source, InputStream& input) {
-        StreamPreview preview(options_, source, output_, input.bytes());
+        StreamPreview preview(options_, source, output_, pdf_.get(), input.bytes());
         for (auto piece = input.read(); !piece.empty() && isWritable(); piece = input.read()) {
             preview.feed(piece);
         }
@@ -83,7 +93,7 @@ private:
 
     // True when another stream begins.
     bool followOne(const Source& source, InputStream& input) {
-        StreamPreview preview(options_, source, output_, 0);
+        StreamPreview preview(options_, source, output_, pdf_.get(), 0);
         while (isWritable() && notedSignal() == 0) {
             if (!input.isReady()) {
                 pause(input);
@@ -132,6 +142,7 @@ private:
     const Options& options_;
     OutputBuffer buffer_{STDOUT_FILENO};
     std::ostream output_{&buffer_};
+    std::unique_ptr<PdfPages> pdf_;
     bool failed_ = false;
 };
 

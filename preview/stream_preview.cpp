@@ -29,7 +29,7 @@ std::string nameOf(const Source& source) {
 
 // Programs get the findings in the list itself; what --check prints is its result.
 StreamPreview::StreamPreview(const Options& options, const Source& source, std::ostream& out,
-                             std::uint64_t bytes)
+                             PdfPages* pdf, std::uint64_t bytes)
     : options_(options),
       name_(nameOf(source)),
       progress_(std::cerr, isatty(STDERR_FILENO) != 0, bytes),
@@ -53,6 +53,9 @@ StreamPreview::StreamPreview(const Options& options, const Source& source, std::
     }
     if (options.writesPictures) {
         shown_.add(pictures_);
+    }
+    if (pdf != nullptr) {
+        shown_.add(*pdf);
     }
     shown_.add(flush_);
     sinks_.add(progress_);

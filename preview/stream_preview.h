@@ -8,6 +8,7 @@
 #include "preview/findings_listing.h"
 #include "preview/label_flush.h"
 #include "preview/options.h"
+#include "preview/pdf_pages.h"
 #include "preview/picture_files.h"
 #include "preview/progress_line.h"
 #include "preview/sink_list.h"
@@ -24,9 +25,9 @@ std::string nameOf(const Source& source);
 /// What is written of one stream.
 class StreamPreview {
 public:
-    /// `out` gets what the options list, standard error the rest. `bytes` is the stream's length,
-    /// or 0.
-    StreamPreview(const Options& options, const Source& source, std::ostream& out,
+    /// `out` gets what the options list, standard error the rest; `pdf` takes the labels, too,
+    /// unless it is null. `bytes` is the stream's length, or 0.
+    StreamPreview(const Options& options, const Source& source, std::ostream& out, PdfPages* pdf,
                   std::uint64_t bytes);
     StreamPreview(const StreamPreview&) = delete;
     StreamPreview& operator=(const StreamPreview&) = delete;

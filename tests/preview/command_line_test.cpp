@@ -160,7 +160,7 @@ TEST(PreviewCommandLine, HelpAndVersionGoToStandardOutput) {
     }
     const std::string help = runPreview(folder, {"--help"}).standardOutput;
     for (const char* option : {"--output", "--dpi", "--burn", "--list", "--json", "--check",
-                               "--label", "--follow", "--terminal", "FILE", "PREFIX"}) {
+                               "--label", "--follow", "--terminal", "--pdf", "FILE", "PREFIX"}) {
         EXPECT_NE(help.find(option), std::string::npos) << option;
     }
     EXPECT_EQ(folder.names(), Names{});
@@ -184,6 +184,8 @@ TEST(PreviewCommandLine, AWrongCommandLineGivesStatusTwoAndAWordOnHowToGetHelp) 
                                                          {"--burn"},
                                                          {"--output"},
                                                          {"-o", ""},
+                                                         {"--pdf", ""},
+                                                         {"--pdf"},
                                                          {"--output="},
                                                          {"--terminal", "--json"},
                                                          {"--check", "--terminal"},
