@@ -66,6 +66,7 @@ struct RawOptions {
     std::string pdf;
     std::string labels;
     bool follow = false;
+    bool feedDirection = false;
     bool terminal = false;
     int dpi = 0;
     std::string burn = "zeros";
@@ -88,6 +89,9 @@ void describe(CLI::App& app, RawOptions& raw) {
     app.add_option("--label", raw.labels, "Show label N only, or labels N-M")
         ->type_name("N[-M]")
         ->check(sLabels);
+    auto* feedDirection =
+        app.add_flag("--feed-direction", raw.feedDirection,
+                     "Show labels as they leave the printer: those of DIRECTION 1 turned");
     auto* terminal = app.add_flag("--terminal", raw.terminal,
                                   "Show the pictures as characters, as large as the window");
     auto* follow =
@@ -102,7 +106,7 @@ void describe(CLI::App& app, RawOptions& raw) {
     auto* list = app.add_flag("--list", raw.list, "List the commands, one per line");
     auto* json = app.add_flag("--json", raw.json, "The same as JSON objects, one per line");
     auto* check = app.add_flag("--check", raw.check, "Only complain, of all that is wrong");
-    for (auto* flag : {terminal, follow, list, json, check}) {
+    for (auto* flag : {feedDirection, terminal, follow, list, json, check}) {
         flag->disable_flag_override();
     }
     list->excludes(json)->excludes(check);
@@ -136,6 +140,7 @@ Options finished(const RawOptions& raw, bool prefixGiven) {
     options.sources = sourcesOf(raw, prefixGiven);
     options.listing = listingOf(raw);
     options.follows = raw.follow;
+    options.inFeedDirection = raw.feedDirection;
     options.showsOnTerminal = raw.terminal;
     if (!raw.pdf.empty()) {
         options.pdf = raw.pdf;

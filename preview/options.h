@@ -38,6 +38,8 @@ struct Options {
     std::optional<std::string> pdf;
     /// The labels to show; all of them without.
     std::optional<LabelRange> labels;
+    /// Whether to show labels as they leave the printer, and not as they are read.
+    bool inFeedDirection = false;
     /// Whether to read on where a file ends.
     bool follows = false;
     Listing listing = Listing::None;

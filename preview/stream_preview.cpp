@@ -39,7 +39,9 @@ StreamPreview::StreamPreview(const Options& options, const Source& source, std::
       pictures_(source.pictures, options.listing == Listing::None ? &out : nullptr, std::cerr),
       terminal_(out, STDOUT_FILENO, options.sources.size() > 1 ? name_ + ": " : ""),
       flush_(out),
-      chosen_(shown_, options.labels),
+      upright_(shown_),
+      chosen_(options.inFeedDirection ? static_cast<tspl::Sink&>(shown_) : upright_,
+              options.labels),
       model_(sinks_, options.printer),
       parser_(model_) {
     if (listing_) {

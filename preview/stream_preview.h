@@ -14,6 +14,7 @@
 #include "preview/sink_list.h"
 #include "preview/stream_listing.h"
 #include "preview/terminal_pictures.h"
+#include "preview/upright_labels.h"
 #include "tspl/printer_model.h"
 #include "tspl/stream_parser.h"
 
@@ -52,6 +53,7 @@ private:
     TerminalPictures terminal_;
     LabelFlush flush_;
     SinkList shown_;
+    UprightLabels upright_;
     ChosenLabels chosen_;
     SinkList sinks_;
     tspl::PrinterModel model_;

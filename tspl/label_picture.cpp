@@ -17,6 +17,12 @@ bool LabelPicture::burns(std::int64_t x, std::int64_t y) const {
                          placement_.turned ? height_ - 1 - top : top);
 }
 
+void LabelPicture::turnUpright() {
+    if (placement_.turned) {
+        placement_ = {placement_.mirrored, false, -placement_.shiftX, -placement_.shiftY};
+    }
+}
+
 std::uint64_t LabelPicture::burntDots() const {
     // What is left of the label when it is shifted over its edges, on the canvas.
     Area area = {std::max<std::int64_t>(0, -placement_.shiftX),

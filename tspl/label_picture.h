@@ -29,6 +29,10 @@ public:
     /// Whether the dot at (x, y), counted from the upper left corner of the picture, is burnt.
     [[nodiscard]] bool burns(std::int64_t x, std::int64_t y) const;
 
+    /// Turns a picture that is printed turned by 180 degrees back, with all that is on the paper:
+    /// what was drawn at the top is at the top then. A mirrored label stays mirrored.
+    void turnUpright();
+
     /// Number of burnt dots.
     [[nodiscard]] std::uint64_t burntDots() const;
 

@@ -159,8 +159,9 @@ TEST(PreviewCommandLine, HelpAndVersionGoToStandardOutput) {
         EXPECT_NE(result.standardOutput.find("tsplpreview"), std::string::npos) << option;
     }
     const std::string help = runPreview(folder, {"--help"}).standardOutput;
-    for (const char* option : {"--output", "--dpi", "--burn", "--list", "--json", "--check",
-                               "--label", "--follow", "--terminal", "--pdf", "FILE", "PREFIX"}) {
+    for (const char* option :
+         {"--output", "--dpi", "--burn", "--list", "--json", "--check", "--label", "--follow",
+          "--terminal", "--pdf", "--feed-direction", "FILE", "PREFIX"}) {
         EXPECT_NE(help.find(option), std::string::npos) << option;
     }
     EXPECT_EQ(folder.names(), Names{});

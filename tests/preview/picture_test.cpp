@@ -36,27 +36,62 @@ const Drawing sDrawings[] = {
     {"AReferenceMovesWhatIsDrawn",
      "REFERENCE 2,3\r\n" + corner,
      {"........", "........", "........", "..###...", "..#.....", "........"}},
-    {"DirectionOneTurnsTheLabel",
+    {"DirectionOneIsReadAsDirectionZero",
      corner + "DIRECTION 1\r\n",
-     {"........", "........", "........", "........", ".......#", ".....###"}},
+     {"###.....", "#.......", "........", "........", "........", "........"}},
     {"ASecondNumberMirrorsTheLabel",
      corner + "DIRECTION 0,1\r\n",
      {".....###", ".......#", "........", "........", "........", "........"}},
+    {"ASecondNumberMirrorsTheLabelOfDirectionOne",
+     corner + "DIRECTION 1,1\r\n",
+     {".....###", ".......#", "........", "........", "........", "........"}},
+    {"AShiftIsToTheRightAndDown",
+     corner + "SHIFT 2,1\r\n",
+     {"........", "..###...", "..#.....", "........", "........", "........"}},
+    // On the paper it goes to the left and up, which is read from the other side.
+    {"AShiftGoesTheOtherWayInDirectionOne",
+     corner + "DIRECTION 1\r\nSHIFT -2,-1\r\n",
+     {"........", "..###...", "..#.....", "........", "........", "........"}},
     {"TheLabelIsClearedByCls",
      corner + "CLS\r\n",
      {"........", "........", "........", "........", "........", "........"}},
 };
 
+// The same labels as they leave the printer.
+const Drawing sFedDrawings[] = {
+    {"DirectionZeroIsAsItIsRead",
+     corner + "DIRECTION 0\r\n",
+     {"###.....", "#.......", "........", "........", "........", "........"}},
+    {"DirectionOneTurnsTheLabel",
+     corner + "DIRECTION 1\r\n",
+     {"........", "........", "........", "........", ".......#", ".....###"}},
+    {"ASecondNumberMirrorsTheLabelBefore",
+     corner + "DIRECTION 1,1\r\n",
+     {"........", "........", "........", "........", "#.......", "###....."}},
+    {"AShiftIsToTheRightAndDownWhateverTheDirection",
+     corner + "DIRECTION 1\r\nSHIFT -2,-1\r\n",
+     {"........", "........", "........", ".....#..", "...###..", "........"}},
+};
+
 class Picture : public testing::TestWithParam<Drawing> {};
 
-TEST_P(Picture, IsDrawnAsByHand) {
+void expectDrawn(const Drawing& drawing, const std::vector<std::string>& arguments) {
     const TemporaryFolder folder;
-    const FilterResult result =
-        runPreview(folder, {}, "SIZE 8 dot,6 dot\r\nCLS\r\n" + GetParam().commands + "PRINT 1\r\n");
+    const FilterResult result = runPreview(
+        folder, arguments, "SIZE 8 dot,6 dot\r\nCLS\r\n" + drawing.commands + "PRINT 1\r\n");
     ASSERT_EQ(result.status, 0) << result.standardError;
-    EXPECT_EQ(
-        differenceOf(drawnPicture(GetParam().rows), readPng(folder.path("label-1.png")).picture),
-        "");
+    EXPECT_EQ(differenceOf(drawnPicture(drawing.rows), readPng(folder.path("label-1.png")).picture),
+              "");
+}
+
+TEST_P(Picture, IsDrawnAsByHand) {
+    expectDrawn(GetParam(), {});
+}
+
+class PictureInFeedDirection : public testing::TestWithParam<Drawing> {};
+
+TEST_P(PictureInFeedDirection, IsDrawnAsByHand) {
+    expectDrawn(GetParam(), {"--feed-direction"});
 }
 
 std::string nameOf(const testing::TestParamInfo<Drawing>& drawing) {
@@ -64,5 +99,6 @@ std::string nameOf(const testing::TestParamInfo<Drawing>& drawing) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Drawings, Picture, testing::ValuesIn(sDrawings), nameOf);
+INSTANTIATE_TEST_SUITE_P(Drawings, PictureInFeedDirection, testing::ValuesIn(sFedDrawings), nameOf);
 
 }  // namespace

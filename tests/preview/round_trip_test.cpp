@@ -100,7 +100,7 @@ void checkRoundTrip(const Job& job, const std::vector<std::string>& options) {
     const TemporaryFolder folder;
     const std::string stream = filterStream(callFor(job, folder));
     const TemporaryFolder out;
-    std::vector<std::string> arguments = {"--json", "-o", "page"};
+    std::vector<std::string> arguments = {"--json", "-o", "page", "--feed-direction"};
     arguments.insert(arguments.end(), options.begin(), options.end());
     const FilterResult result = runPreview(out, arguments, stream);
     RC_ASSERT(result.status == 0);

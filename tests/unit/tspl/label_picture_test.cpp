@@ -75,6 +75,51 @@ TEST_F(PictureOfAnL, IsBareWhenItIsShiftedAway) {
     }
 }
 
+TEST_F(PictureOfAnL, StaysAsItIsUprightInDirectionZero) {
+    const Placement placements[] = {
+        {}, {.mirrored = true}, {.shiftX = 1, .shiftY = -1}, {.mirrored = true, .shiftX = -1}};
+    for (const Placement& placement : placements) {
+        LabelPicture upright = picture(placement);
+        upright.turnUpright();
+        EXPECT_EQ(rowsOf(upright), rows(placement));
+    }
+}
+
+TEST_F(PictureOfAnL, HasItsTopAtTheTopWhenItIsTurnedUpright) {
+    const auto upright = [this](const Placement& placement) {
+        LabelPicture turned = picture(placement);
+        turned.turnUpright();
+        return rowsOf(turned);
+    };
+    EXPECT_EQ(upright({.turned = true}), (Texts{"#...", "###.", "...."}));
+    EXPECT_EQ(upright({.mirrored = true, .turned = true}), (Texts{"...#", ".###", "...."}));
+    // What is to the right and down on the paper is to the left and up for its reader.
+    EXPECT_EQ(upright({.turned = true, .shiftX = 1}), (Texts{"....", "##..", "...."}));
+    EXPECT_EQ(upright({.turned = true, .shiftX = -1}), (Texts{".#..", ".###", "...."}));
+    EXPECT_EQ(upright({.turned = true, .shiftY = 1}), (Texts{"###.", "....", "...."}));
+    EXPECT_EQ(upright({.turned = true, .shiftX = -2, .shiftY = -1}),
+              (Texts{"....", "..#.", "..##"}));
+    EXPECT_EQ(upright({.mirrored = true, .turned = true, .shiftX = 1}),
+              (Texts{"..#.", "###.", "...."}));
+}
+
+TEST_F(PictureOfAnL, IsUprightTheSamePaperTurnedBy180Degrees) {
+    for (const bool mirrored : {false, true}) {
+        for (std::int64_t x = -5; x <= 5; ++x) {
+            for (std::int64_t y = -4; y <= 4; ++y) {
+                LabelPicture upright = picture({mirrored, true, x, y});
+                Texts paper = rowsOf(upright);
+                std::reverse(paper.begin(), paper.end());
+                for (std::string& row : paper) {
+                    std::reverse(row.begin(), row.end());
+                }
+                upright.turnUpright();
+                EXPECT_EQ(rowsOf(upright), paper) << x << ", " << y;
+            }
+        }
+    }
+}
+
 TEST_F(PictureOfAnL, CountsTheDotsThatItShows) {
     EXPECT_EQ(picture({}).burntDots(), 4U);
     EXPECT_EQ(picture({.mirrored = true, .turned = true}).burntDots(), 4U);
