@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdint>
 
 #include "tspl/text.h"
 #include "tspl/utf8.h"
@@ -68,8 +69,7 @@ public:
 
 private:
     static constexpr auto failed = static_cast<std::size_t>(-1);
-    static iconv_t noHandle() { return reinterpret_cast<iconv_t>(-1); }
-    [[nodiscard]] bool isOpen() const { return handle_ != noHandle(); }
+    [[nodiscard]] bool isOpen() const { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
 
     // A system may come without the tables of rare encodings.
     static bool takeAscii(std::string_view& text, std::string& utf8) {
