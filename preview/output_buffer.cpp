@@ -12,7 +12,7 @@ OutputBuffer::OutputBuffer(int descriptor) : descriptor_(descriptor) {
 }
 
 OutputBuffer::int_type OutputBuffer::overflow(int_type byte) {
-    if (sync() != 0) {
+    if (!send()) {
         return traits_type::eof();
     }
     if (!traits_type::eq_int_type(byte, traits_type::eof())) {
@@ -21,7 +21,7 @@ OutputBuffer::int_type OutputBuffer::overflow(int_type byte) {
     return traits_type::not_eof(byte);
 }
 
-int OutputBuffer::sync() {
+bool OutputBuffer::send() {
     const char* next = pbase();
     while (next < pptr() && error_.empty()) {
         const ssize_t count = write(descriptor_, next, static_cast<std::size_t>(pptr() - next));
@@ -32,7 +32,7 @@ int OutputBuffer::sync() {
         }
     }
     setp(bytes_.data(), bytes_.data() + bytes_.size());
-    return error_.empty() ? 0 : -1;
+    return error_.empty();
 }
 
 }  // namespace preview

@@ -12,16 +12,18 @@ public:
     explicit OutputBuffer(int descriptor);
     OutputBuffer(const OutputBuffer&) = delete;
     OutputBuffer& operator=(const OutputBuffer&) = delete;
-    ~OutputBuffer() override { sync(); }
+    ~OutputBuffer() override { send(); }
 
     /// Why writing failed; empty as long as it did not. Nothing is written after a failure.
     [[nodiscard]] const std::string& error() const { return error_; }
 
 protected:
     int_type overflow(int_type byte) override;
-    int sync() override;
+    int sync() override { return send() ? 0 : -1; }
 
 private:
+    bool send();
+
     static constexpr std::size_t bufferBytes = 16384;
 
     int descriptor_;

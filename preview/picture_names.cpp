@@ -13,6 +13,7 @@ std::string stemOf(const std::string& input) {
 
 std::vector<std::string> stemsOf(const std::vector<std::string>& inputs) {
     std::vector<std::string> stems;
+    stems.reserve(inputs.size());
     for (const std::string& input : inputs) {
         stems.push_back(stemOf(input));
     }
@@ -43,9 +44,10 @@ std::vector<std::string> pictureNames(const std::vector<std::string>& inputs,
     }
     std::vector<std::string> names = stemsOf(inputs);
     makeDifferent(names);
-    for (std::string& name : names) {
-        if (prefix) {
-            name = *prefix + (prefix->ends_with('/') ? "" : "-") + name;
+    if (prefix) {
+        const std::string start = prefix->ends_with('/') ? *prefix : *prefix + "-";
+        for (std::string& name : names) {
+            name.insert(0, start);
         }
     }
     return names;
