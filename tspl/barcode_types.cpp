@@ -37,17 +37,16 @@ CodeSymbol encode39(const BarcodeType& type, const std::string& content) {
 // Digits weigh 3 and 1 in turn, from the right.
 char articleCheckDigit(std::string_view digits) {
     int sum = 0;
-    int weight = 3;
-    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
-        sum += weight * (*digit - '0');
-        weight = 4 - weight;
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+        const int weight = (digits.size() - i) % 2 == 1 ? 3 : 1;
+        sum += weight * (digits[i] - '0');
     }
     return static_cast<char>('0' + (10 - sum % 10) % 10);
 }
 
 // The library takes article numbers of a full length for others: it adds the check digit itself.
 std::string withoutCheckDigit(const std::string& digits) {
-    const std::string number = digits.substr(0, digits.size() - 1);
+    std::string number = digits.substr(0, digits.size() - 1);
     const char expected = articleCheckDigit(number);
     if (digits.back() != expected) {
         throw CodeFault(std::string("the check digit is ") + expected + ", not " + digits.back());

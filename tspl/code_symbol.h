@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -16,12 +17,20 @@ struct CodeSymbol {
     std::vector<Row> rows;
     std::string text;  ///< what people read beside it; empty where a code has none
 
-    /// Modules from left to right.
+    /// Modules from left to right, and rows from top to bottom: one at least of a code that is
+    /// encoded.
     [[nodiscard]] std::int64_t width() const {
         return rows.empty() ? 0 : static_cast<std::int64_t>(rows.front().modules.size());
     }
-    /// Rows from top to bottom.
     [[nodiscard]] std::int64_t height() const { return static_cast<std::int64_t>(rows.size()); }
+
+    /// Dots of a module, and of a row, of a code that fills so many.
+    [[nodiscard]] std::int64_t moduleIn(std::int64_t dots) const {
+        return dots / std::max<std::int64_t>(width(), 1);
+    }
+    [[nodiscard]] std::int64_t rowIn(std::int64_t dots) const {
+        return dots / std::max<std::int64_t>(height(), 1);
+    }
 };
 
 /// What libzint is to encode: the fields of its symbol. Values of -1 and 0 are its defaults.

@@ -133,8 +133,7 @@ void drawDataMatrix(Printer& printer, const Command& command) {
     const CodeSymbol symbol = encodeMatrix(options, contentFrom(command.arguments.back()));
     std::int64_t module = options.module;
     if (module == 0) {
-        module =
-            std::max<std::int64_t>(std::min(width / symbol.width(), height / symbol.height()), 1);
+        module = std::max<std::int64_t>(std::min(symbol.moduleIn(width), symbol.rowIn(height)), 1);
         printer.remark(command, "DMATRIX names no module; with " + std::to_string(module) +
                                     (module == 1 ? " dot" : " dots") + " it fills its area");
     }

@@ -95,11 +95,11 @@ void fillArea(StackOptions& options, const CodeSymbol& symbol, std::int64_t widt
               std::int64_t height) {
     if (options.module == 0) {
         options.module =
-            static_cast<std::int32_t>(std::clamp<std::int64_t>(width / symbol.width(), 2, 9));
+            static_cast<std::int32_t>(std::clamp<std::int64_t>(symbol.moduleIn(width), 2, 9));
     }
     if (options.row == 0) {
         options.row =
-            static_cast<std::int32_t>(std::clamp<std::int64_t>(height / symbol.height(), 4, 99));
+            static_cast<std::int32_t>(std::clamp<std::int64_t>(symbol.rowIn(height), 4, 99));
     }
 }
 
