@@ -176,9 +176,10 @@ TEST(CodeRemark, IsMadeOfTheTextLineOfABarcode) {
 }
 
 TEST(CodeBeyondTheLabel, IsCutOffAndCounted) {
-    // Three characters of three narrow bars and two wide ones, two rows high.
+    // Three characters of three narrow bars and two wide ones, two rows high; the command is at
+    // byte 17.
     EXPECT_EQ(findingsOf("SIZE 8 dot,8 dot\nBARCODE 8,0,\"39\",2,0,0,1,3,\"A\"\nPRINT 1\n"),
-              Texts{"complaint 48 54 dots lie outside the label and are cut off"});
+              Texts{"complaint 17 54 dots lie outside the label and are cut off"});
 }
 
 }  // namespace
