@@ -14,7 +14,7 @@ std::string takeIdentifier(std::string_view& rest) {
                         '"');
     }
     rest.remove_prefix(digits.size());
-    return "[" + std::string(digits) + "]";
+    return std::string("[").append(digits).append("]");
 }
 
 char takeByte(std::string_view& rest) {

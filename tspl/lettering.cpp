@@ -36,11 +36,11 @@ std::optional<std::string> readText(Printer& printer, const Command& command, st
     }
     const auto text = parseTextArgument(argument);
     if (!text) {
-        return refuse(printer, command, "\"" + printable(argument) + "\" without quotation marks");
+        return refuse(printer, command, inQuotes(argument) + " without quotation marks");
     }
     if (!text->behind.empty()) {
         return refuse(printer, command,
-                      "\"" + printable(text->behind) + "\" behind the closing quotation mark");
+                      inQuotes(text->behind) + " behind the closing quotation mark");
     }
     return text->bytes;
 }
@@ -165,7 +165,7 @@ std::optional<std::int32_t> readInteger(Printer& printer, const Command& command
     if (!value && isExpression(argument)) {
         return leaveOut(printer, command);
     }
-    return value ? value : refuse(printer, command, "\"" + printable(argument) + '"');
+    return value ? value : refuse(printer, command, inQuotes(argument));
 }
 
 std::optional<Lettering> readLettering(Printer& printer, const Command& command,

@@ -59,4 +59,11 @@ std::string printable(std::string_view text) {
     return result;
 }
 
+std::string inQuotes(std::string_view text) {
+    std::string result = printable(text);
+    result.insert(result.begin(), '"');
+    result += '"';
+    return result;
+}
+
 }  // namespace tspl

@@ -22,4 +22,7 @@ std::optional<std::int32_t> parseInteger(std::string_view text);
 /// The text with every byte that is not printable ASCII, and the backslash, as \xNN.
 std::string printable(std::string_view text);
 
+/// The same between quotation marks.
+std::string inQuotes(std::string_view text);
+
 }  // namespace tspl
