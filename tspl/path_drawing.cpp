@@ -27,11 +27,11 @@ std::uint8_t leftmostFirst(unsigned char byte) {
     if constexpr (std::endian::native == std::endian::big) {
         return byte;
     }
-    std::uint8_t turned = 0;
+    unsigned turned = 0;
     for (unsigned bit = 0; bit < 8; ++bit) {
-        turned = static_cast<std::uint8_t>(turned << 1U | (byte >> bit & 1U));
+        turned = turned << 1U | (unsigned{byte} >> bit & 1U);
     }
-    return turned;
+    return static_cast<std::uint8_t>(turned);
 }
 
 void drawStrip(DotCanvas& canvas, const Area& strip, const std::function<void(cairo_t*)>& draw) {
