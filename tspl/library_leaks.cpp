@@ -1,5 +1,6 @@
-// Fontconfig loses some bytes of its configuration while it reads it. The leak checker takes them for
-// the program's own; the names are those that it looks for. Only what is built with it has this file.
+// Fontconfig loses some bytes of its configuration while it reads it. The leak checker takes them
+// for the program's own; the names are those that it looks for. Only what is built with it has this
+// file.
 
 // NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" const char* __lsan_default_suppressions();
