@@ -25,6 +25,12 @@ Area CodeDrawing::turned(const Area& area) const {
     }
 }
 
+TextFrame CodeDrawing::textFrame() const {
+    const Area shift = turned({0, 0, 0, 0});
+    const Area origin = printer_.placed({x_ + shift.x, y_ + shift.y, 0, 0});
+    return {origin.x, origin.y, rotation_};
+}
+
 void CodeDrawing::fill(const Area& area) {
     const Area dots = turned(area);
     printer_.label.canvas().fill(

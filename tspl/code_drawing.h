@@ -6,6 +6,7 @@
 #include "tspl/code_symbol.h"
 #include "tspl/dot_canvas.h"
 #include "tspl/printer.h"
+#include "tspl/text_frame.h"
 
 namespace tspl {
 
@@ -34,6 +35,9 @@ public:
     /// Draws the rows of a symbol with modules `width` dots wide and rows `height` dots high, a
     /// line as thick as a module is wide above, between and below them.
     void drawStack(const CodeSymbol& symbol, std::int64_t width, std::int64_t height);
+
+    /// A frame for texts with the code's origin, shift and rotation.
+    [[nodiscard]] TextFrame textFrame() const;
 
 private:
     [[nodiscard]] Area turned(const Area& area) const;

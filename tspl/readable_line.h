@@ -14,7 +14,7 @@ struct ReadableLine {
     std::int64_t width = 0;  ///< of the bars, in dots
 };
 
-/// Keeps the line's place: what it looks like is a matter of the printer's own fonts. Says so.
+/// Draws the line below the bars in a font that is like the printer's, and says so.
 void drawReadableLine(Printer& printer, const Command& command, CodeDrawing& drawing,
                       const ReadableLine& line);
 
