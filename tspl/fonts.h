@@ -23,7 +23,7 @@ struct Font {
 };
 
 /// The font that is built into printers by this name, without its quotation marks; nothing for any
-/// other name. Fonts that a stream downloads are to be looked up here, too.
+/// other name, that of a font which a stream downloads included.
 std::optional<Font> fontOf(std::string_view name);
 
 /// Whether the name is that of a file of outlines: they are scalable.
