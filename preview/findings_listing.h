@@ -1,30 +1,57 @@
 #pragma once
 
+#include <cstdint>
 #include <ostream>
 #include <string>
+#include <unordered_map>
+#include <vector>
 
 #include "tspl/sink.h"
 
 namespace preview {
 
-/// Writes findings, one per line, and counts the complaints.
+/// What there is to tell besides complaints.
+struct ToldFindings {
+    bool remarks = false;
+    /// Sizes of labels that are complained of, where they hang on a resolution that nobody gave.
+    bool sizes = false;
+};
+
+/// Writes findings, one per line. What is found again in the same words, as it is on every label
+/// of a job, is counted, and told at the end.
 class FindingsListing : public tspl::Sink {
 public:
     /// `source` is what the lines start with: the name of the stream.
-    FindingsListing(std::ostream& out, std::string source, bool withRemarks)
-        : out_(out), source_(std::move(source)), withRemarks_(withRemarks) {}
+    FindingsListing(std::ostream& out, std::string source, ToldFindings told)
+        : out_(out), source_(std::move(source)), told_(told) {}
 
     void onEntry(const tspl::Entry&) override {}
     void onFinding(const tspl::Finding& finding) override;
-    void onLabel(const tspl::PrintedLabel&) override {}
+    void onLabel(const tspl::PrintedLabel& label) override;
+    void onLostLabel() override;
 
-    [[nodiscard]] bool hasComplaints() const { return complaints_ > 0; }
+    /// Tells how often what was found was found again, in the order in which it first was.
+    void writeRepeats() const;
 
 private:
+    struct Repeat {
+        std::string text;
+        std::uint64_t lastLabel = 0;
+        std::uint64_t times = 0;   ///< after the first one
+        std::uint64_t labels = 0;  ///< on which it was found again, without the first one
+    };
+    bool isRepeated(const std::string& text);
+    void writeSize(const tspl::PrintedLabel& label);
+    void endLabel();
+
     std::ostream& out_;
     std::string source_;
-    bool withRemarks_;
-    std::uint64_t complaints_ = 0;
+    ToldFindings told_;
+    std::uint64_t label_ = 0;
+    bool isComplainedOf_ = false;  ///< the label under way
+    std::string size_;             ///< that was told last
+    std::vector<Repeat> found_;
+    std::unordered_map<std::string, std::size_t> places_;  ///< of texts in `found_`
 };
 
 }  // namespace preview

@@ -54,6 +54,9 @@ const CLI::Validator sNotEmpty(
     [](const std::string& text) { return std::string(text.empty() ? "must not be empty" : ""); },
     "");
 
+const CLI::Validator sNoStream(
+    [](const std::string& text) { return std::string(text == "-" ? "must be a file" : ""); }, "");
+
 const CLI::Validator sLabels(
     [](const std::string& text) {
         return std::string(parseLabelRange(text) ? "" : "is no label like 5 or 3-7");
@@ -85,7 +88,8 @@ void describe(CLI::App& app, RawOptions& raw) {
         ->check(sNotEmpty);
     app.add_option("--pdf", raw.pdf, "Write the labels at their true size to a PDF file")
         ->type_name("PDF")
-        ->check(sNotEmpty);
+        ->check(sNotEmpty)
+        ->check(sNoStream);
     app.add_option("--label", raw.labels, "Show label N only, or labels N-M")
         ->type_name("N[-M]")
         ->check(sLabels);
@@ -105,12 +109,13 @@ void describe(CLI::App& app, RawOptions& raw) {
         ->check(CLI::IsMember({"zeros", "ones"}));
     auto* list = app.add_flag("--list", raw.list, "List the commands, one per line");
     auto* json = app.add_flag("--json", raw.json, "The same as JSON objects, one per line");
-    auto* check = app.add_flag("--check", raw.check, "Only complain, of all that is wrong");
+    auto* check =
+        app.add_flag("--check", raw.check,
+                     "Only complain, of all that is wrong; a failure when there is anything");
     for (auto* flag : {feedDirection, terminal, follow, list, json, check}) {
         flag->disable_flag_override();
     }
-    list->excludes(json)->excludes(check);
-    json->excludes(check);
+    list->excludes(json);
     terminal->excludes(json)->excludes(check);
 }
 
@@ -139,6 +144,7 @@ Options finished(const RawOptions& raw, bool prefixGiven) {
     Options options;
     options.sources = sourcesOf(raw, prefixGiven);
     options.listing = listingOf(raw);
+    options.complaintsFail = raw.check;
     options.follows = raw.follow;
     options.inFeedDirection = raw.feedDirection;
     options.showsOnTerminal = raw.terminal;

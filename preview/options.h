@@ -15,7 +15,7 @@ enum class Listing {
     None,
     Text,   ///< the commands, one per line
     Json,   ///< commands, labels and findings, one JSON object per line
-    Check,  ///< complaints only
+    Check,  ///< complaints and their number
 };
 
 /// A stream to read.
@@ -43,6 +43,8 @@ struct Options {
     /// Whether to read on where a file ends.
     bool follows = false;
     Listing listing = Listing::None;
+    /// Whether a complaint is a failure.
+    bool complaintsFail = false;
     tspl::PrinterOptions printer;
 };
 

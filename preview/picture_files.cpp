@@ -5,9 +5,11 @@
 #include "tspl/text.h"
 
 namespace preview {
+
 void PictureFiles::onLabel(const tspl::PrintedLabel& label) {
     const std::string name = prefix_ + "-" + std::to_string(label.number) + ".png";
     const std::string error = writePng(name, label.picture);
+    written_ = error.empty() ? name : "";
     if (!error.empty()) {
         err_ << "tsplpreview: " << tspl::printable(name) << ": " << error << '\n';
         failed_ = true;

@@ -19,12 +19,16 @@ public:
     void onLabel(const tspl::PrintedLabel& label) override;
     void onLostLabel() override { failed_ = true; }
 
+    /// The file of the last label's picture; empty when it could not be written.
+    [[nodiscard]] const std::string& written() const { return written_; }
+
     [[nodiscard]] bool hasFailed() const { return failed_; }
 
 private:
     std::string prefix_;
     std::ostream* out_;
     std::ostream& err_;
+    std::string written_;
     bool failed_ = false;
 };
 

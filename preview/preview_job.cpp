@@ -9,6 +9,7 @@
 
 #include "preview/ending_signals.h"
 #include "preview/input_stream.h"
+#include "preview/json_listing.h"
 #include "preview/output_buffer.h"
 #include "preview/stream_preview.h"
 
@@ -24,6 +25,9 @@ public:
     }
 
     int run() {
+        if (options_.listing == Listing::Json) {
+            JsonListing::writeSchema(output_);
+        }
         for (const Source& source : options_.sources) {
             if (isWritable()) {
                 show(source);
@@ -67,7 +71,7 @@ private:
         for (auto piece = input.read(); !piece.empty() && isWritable(); piece = input.read()) {
             preview.feed(piece);
         }
-        if (input.error().empty()) {
+        if (input.error().empty() && isWritable()) {
             preview.finish();
         }
         end(preview);

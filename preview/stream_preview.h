@@ -13,6 +13,7 @@
 #include "preview/progress_line.h"
 #include "preview/sink_list.h"
 #include "preview/stream_listing.h"
+#include "preview/stream_tally.h"
 #include "preview/terminal_pictures.h"
 #include "preview/upright_labels.h"
 #include "tspl/printer_model.h"
@@ -37,19 +38,24 @@ public:
     void feed(std::span<const std::uint8_t> piece);
     /// The stream is at its end.
     void finish();
-    /// No more is shown; says what was asked for and did not come.
+    /// No more is shown: sums up a stream that is at its end, and says what was asked for and did
+    /// not come.
     void end();
 
     /// Whether something could not be shown, or is complained of where complaints are asked for.
     [[nodiscard]] bool hasFailed() const;
 
 private:
+    void summarize();
+
     const Options& options_;
     std::string name_;
     ProgressLine progress_;
-    std::unique_ptr<StreamListing> listing_;
+    StreamTally tally_;
+    std::ostream& findingsOut_;
     FindingsListing findings_;
     PictureFiles pictures_;
+    std::unique_ptr<StreamListing> listing_;
     TerminalPictures terminal_;
     LabelFlush flush_;
     SinkList shown_;
@@ -58,6 +64,7 @@ private:
     SinkList sinks_;
     tspl::PrinterModel model_;
     tspl::StreamParser parser_;
+    bool isFinished_ = false;
 };
 
 }  // namespace preview

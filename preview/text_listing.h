@@ -15,6 +15,7 @@ public:
     void onEntry(const tspl::Entry& entry) override;
     void onFinding(const tspl::Finding&) override {}
     void onLabel(const tspl::PrintedLabel&) override {}
+    void onEnd(const StreamTally&) override {}
 
 private:
     std::ostream& out_;

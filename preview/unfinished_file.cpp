@@ -2,8 +2,38 @@
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 
 namespace preview {
+namespace {
+
+namespace fs = std::filesystem;
+
+// What a name stands for that is a link, also one to a file that is not there yet: the link stays.
+std::string behindLinks(const std::string& name) {
+    constexpr int mostLinks = 40;
+    fs::path path = name;
+    std::error_code none;
+    for (int i = 0; i < mostLinks && fs::is_symlink(fs::symlink_status(path, none)); ++i) {
+        path = path.parent_path() / fs::read_symlink(path, none);
+    }
+    return path.string();
+}
+
+// A file that is complete takes the place of what has its name, which must be a file, too.
+std::string whyNotReplaced(const std::string& name) {
+    std::error_code none;
+    const fs::file_status status = fs::status(name, none);
+    if (!fs::exists(status) || fs::is_regular_file(status)) {
+        return "";
+    }
+    return fs::is_directory(status) ? std::strerror(EISDIR) : "is no regular file";
+}
+
+}  // namespace
+
+UnfinishedFile::UnfinishedFile(const std::string& name)
+    : name_(behindLinks(name)), part_(name_ + ".part") {}
 
 UnfinishedFile::~UnfinishedFile() {
     file_.reset();
@@ -13,6 +43,9 @@ UnfinishedFile::~UnfinishedFile() {
 }
 
 std::string UnfinishedFile::open() {
+    if (std::string why = whyNotReplaced(name_); !why.empty()) {
+        return why;
+    }
     // Before there is a file, so that no signal comes in between.
     removal_.emplace(part_.c_str());
     file_.reset(std::fopen(part_.c_str(), "wb"));

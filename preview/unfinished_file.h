@@ -14,12 +14,14 @@ namespace preview {
 /// completed, also by a signal.
 class UnfinishedFile {
 public:
-    explicit UnfinishedFile(const std::string& name) : name_(name), part_(name + ".part") {}
+    /// Where the name is that of a link, the file is the one that it leads to.
+    explicit UnfinishedFile(const std::string& name);
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
     ~UnfinishedFile();
 
-    /// Begins the file. Returns why it could not; empty when it could.
+    /// Begins the file. Returns why it could not, as where a device has its name; empty when it
+    /// could.
     std::string open();
 
     /// The open file.

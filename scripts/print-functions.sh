@@ -92,7 +92,7 @@ print_document() {
 
     echo
     echo "Printed $document to $name.tspl (log: $name.log)"
-    "$previewer" --check "$name.tspl" || fail "no printer would take this stream"
+    "$previewer" --check "$name.tspl" || fail "there is something wrong with this stream"
     "$previewer" --list "$name.tspl" 2>/dev/null
     echo "Pictures of the labels:"
     "$previewer" -o "$name" "$name.tspl" | sed 's/^/  /'

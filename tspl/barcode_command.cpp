@@ -1,12 +1,10 @@
 // BARCODE x,y,"type",height,line,rotation,narrow,wide,[alignment,]"content"
-#include <cmath>
 #include <numeric>
 
 #include "tspl/barcode_types.h"
 #include "tspl/code_arguments.h"
 #include "tspl/code_commands.h"
 #include "tspl/code_drawing.h"
-#include "tspl/command_rules.h"
 #include "tspl/readable_line.h"
 
 namespace tspl {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -29,14 +30,16 @@ std::int32_t numberFrom(const std::string& argument, std::int32_t least, std::in
 /// Reads the angle of a code: 0, 90, 180 or 270; throws CodeFault for any other.
 int rotationFrom(const std::string& argument);
 
-/// Reads what stands between two quotation marks, of which \["] stands for one of the text, \[R]
-/// for a carriage return and \[L] for a line feed. Throws CodeFault when the marks are missing,
-/// when anything follows them or when nothing is between them, and CodeNotDrawn for a variable.
+/// Reads a code's content, a text argument. Throws CodeFault when its quotation marks are missing,
+/// when anything follows them or when nothing is between them, and CodeNotDrawn for what the
+/// printer works out.
 std::string contentFrom(const std::string& argument);
 
-/// The same of a word that is a name, such as the type of a code, in capitals. The marks may be
-/// missing.
+/// Reads a name, such as the type of a code, in capitals. Its quotation marks may be missing.
 std::string nameFrom(const std::string& argument);
+
+/// The arguments from `first` on that stand before the content, which is the last one.
+std::span<const std::string> optionsBefore(const Command& command, std::size_t first);
 
 /// An option of a code: a letter, as a capital, and what follows it.
 struct CodeOption {

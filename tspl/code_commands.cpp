@@ -11,8 +11,9 @@ void drawCode(Printer& printer, const Command& command) {
     try {
         draw(printer, command);
     } catch (const CodeNotDrawn& reason) {
-        printer.remark(command, command.name + " is not drawn: " + reason.what());
+        printer.remarkUndrawn(command, command.name + " is not drawn: " + reason.what());
     } catch (const CodeFault& fault) {
+        printer.label.noteUndrawn();
         printer.complain(command, command.name + ": " + fault.what());
     }
 }

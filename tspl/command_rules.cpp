@@ -72,6 +72,16 @@ std::int32_t integer(const Command& command, std::size_t index) {
     return parseInteger(command.arguments[index]).value_or(0);
 }
 
+void checkRange(Printer& printer, const Command& command, std::size_t index, std::int32_t least,
+                std::int32_t most, std::string_view what) {
+    const std::int32_t value = integer(command, index);
+    if (value < least || value > most) {
+        printer.complain(command, command.name + ": " + std::string(what) + " is " +
+                                      std::to_string(least) + " to " + std::to_string(most) +
+                                      ", not " + std::to_string(value));
+    }
+}
+
 std::string quoted(const Command& command) {
     constexpr std::size_t longest = 40;
     const std::string text = printable(command.text);

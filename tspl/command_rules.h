@@ -68,6 +68,10 @@ std::optional<std::string> findFault(const CommandRule& rule, const Command& com
 /// An argument that the command's rule has found to be a whole number.
 std::int32_t integer(const Command& command, std::size_t index);
 
+/// Complains of such an argument that is not from `least` to `most`; `what` names it.
+void checkRange(Printer& printer, const Command& command, std::size_t index, std::int32_t least,
+                std::int32_t most, std::string_view what);
+
 /// The beginning of the command, for people.
 std::string quoted(const Command& command);
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "tspl/text.h"
+#include "tspl/text_argument.h"
 
 namespace tspl {
 namespace {
@@ -48,8 +49,8 @@ std::optional<DownloadHead> parseDownloadHead(const Command& command) {
     if (!bytes || *bytes < 0) {
         return std::nullopt;
     }
-    const std::string name(unquoted(arguments[arguments.size() - 3]));
-    return DownloadHead{name, static_cast<std::uint64_t>(*bytes)};
+    return DownloadHead{nameOf(arguments[arguments.size() - 3]),
+                        static_cast<std::uint64_t>(*bytes)};
 }
 
 }  // namespace tspl

@@ -62,10 +62,10 @@ MatrixOptions optionsOf(const Command& command) {
     constexpr std::size_t first = 4;
     MatrixOptions options;
     std::size_t sizes = 0;
-    for (std::size_t i = first; i + 1 < command.arguments.size(); ++i) {
-        const auto number = parseInteger(command.arguments[i]);
+    for (const std::string& argument : optionsBefore(command, first)) {
+        const auto number = parseInteger(argument);
         if (!number) {
-            readOption(options, command.arguments[i]);
+            readOption(options, argument);
             continue;
         }
         (sizes++ == 0 ? options.size.rows : options.size.columns) = *number;

@@ -3,6 +3,7 @@
 #include "tspl/data_heads.h"
 #include "tspl/picture_file.h"
 #include "tspl/text.h"
+#include "tspl/text_argument.h"
 
 namespace tspl {
 namespace {
@@ -29,7 +30,7 @@ void endStoring(Printer& printer, const Command& /*command*/) {
 
 // KILL "name", with or without a memory's letter before it.
 void remove(Printer& printer, const Command& command) {
-    printer.files.remove(unquoted(command.arguments.back()));
+    printer.files.remove(nameOf(command.arguments.back()));
 }
 
 using Read = std::optional<PictureDots> (*)(std::span<const std::uint8_t>);
@@ -44,14 +45,14 @@ template <Read read>
 void putPicture(Printer& printer, const Command& command) {
     const auto x = parseInteger(command.arguments[0]);
     const auto y = parseInteger(command.arguments[1]);
-    const std::string name(unquoted(command.arguments[2]));
+    const std::string name = nameOf(command.arguments[2]);
     if (!x || !y) {
         printer.complain(command, command.name + " needs a position: " + quoted(command));
         return;
     }
     const StoredFiles::Bytes* file = printer.files.find(name);
     if (file == nullptr) {
-        printer.remark(
+        printer.remarkUndrawn(
             command, command.name + " is not drawn: the stream does not store " + printable(name));
         return;
     }

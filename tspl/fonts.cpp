@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "tspl/downloaded_font.h"
 #include "tspl/text.h"
 
 namespace tspl {
@@ -15,7 +16,7 @@ struct NamedFont {
     Font font;
 };
 
-constexpr NamedFont fonts[] = {
+const NamedFont fonts[] = {
     {"0", {proportionalFamily}},
     {"1", {fixedFamily, 8, 12}},
     {"2", {fixedFamily, 12, 20}},
@@ -53,9 +54,20 @@ std::optional<Font> fontOf(std::string_view name) {
     return found == std::end(fonts) ? std::nullopt : std::optional(found->font);
 }
 
+bool isFontFile(std::string_view name) {
+    const auto dot = name.find_last_of('.');
+    return dot != std::string_view::npos && dot > 0 && dot + 1 < name.size();
+}
+
 bool isOutlineFile(std::string_view name) {
     const std::string capitals = upperCase(name);
     return capitals.ends_with(".TTF") || capitals.ends_with(".OTF") || capitals.ends_with(".TTC");
+}
+
+Font fontOf(const std::shared_ptr<const DownloadedFont>& font) {
+    Font own{font->key().c_str()};
+    own.downloaded = font;
+    return own;
 }
 
 Font standInOf(std::string_view fileName) {

@@ -1,15 +1,20 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace tspl {
 
-/// A font of the printer, as it is drawn by one that is alike.
+class DownloadedFont;
+
+/// A font of the printer, as it is drawn: by one that is alike, or by the one that the stream
+/// brings along.
 struct Font {
-    const char* family = "";  ///< of the font that is drawn, by its name on this system
+    /// Of the font that is drawn: by its name on this system, or by the key of the downloaded one.
+    const char* family = "";
     /// The cell of a character in dots at a multiplication of 1; 0 where the font is scalable, and
     /// its size is given in points.
     std::int32_t cellWidth = 0;
@@ -18,6 +23,8 @@ struct Font {
     bool hasHalfCells = false;
     /// The code page that it brings along; empty where the one of CODEPAGE is used.
     const char* codePage = "";
+    /// Null for fonts of this system.
+    std::shared_ptr<const DownloadedFont> downloaded = nullptr;
 
     [[nodiscard]] bool isScalable() const { return cellWidth == 0; }
 };
@@ -26,8 +33,14 @@ struct Font {
 /// other name, that of a font which a stream downloads included.
 std::optional<Font> fontOf(std::string_view name);
 
+/// Whether the name is that of a file, such as "ARIAL.TTF".
+bool isFontFile(std::string_view name);
+
 /// Whether the name is that of a file of outlines: they are scalable.
 bool isOutlineFile(std::string_view name);
+
+/// The font that a stream brings along, itself.
+Font fontOf(const std::shared_ptr<const DownloadedFont>& font);
 
 /// The font that stands for a file of outlines, and for a file of cells that are not known.
 Font standInOf(std::string_view fileName);

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "tspl/dot_canvas.h"
+#include "tspl/downloaded_font.h"
 #include "tspl/font_face.h"
 
 namespace tspl {
@@ -21,23 +22,31 @@ std::int32_t rounded(double value) {
     return static_cast<std::int32_t>(std::lround(value));
 }
 
-// A character's outline, measured in ems.
+// A character's outline, measured in ems. The face stays as long as anyone knows the font: those of
+// the system for good, a downloaded one with its key.
 struct Outline {
-    CairoPointer<cairo_font_face_t> face;
+    cairo_font_face_t* face = nullptr;
     unsigned long index = 0;
     double advance = 0;
     double ascent = 0;
     double lineHeight = 0;
 };
 
-Outline measured(const char* family, char32_t character) {
-    cairo_font_face_t* face = findFace(family, character);
+cairo_font_face_t* faceOf(const Font& font, char32_t character) {
+    return font.downloaded ? font.downloaded->face() : findFace(font.family, character);
+}
+
+Outline measured(const Font& font, char32_t character) {
+    constexpr double flattestLine = 0.25;
+    cairo_font_face_t* face = faceOf(font, character);
     const SizedFont unit(face, 1, 1);
     const unsigned long index = unit.glyphOf(character);
-    Outline outline{CairoPointer<cairo_font_face_t>(cairo_font_face_reference(face)), index,
-                    unit.advance(index), unit.ascent(), unit.ascent() + unit.descent()};
-    // Outlines that fill a square of their own would become flat in the height of a line.
-    if (isWide(character)) {
+    Outline outline{face, index, unit.advance(index), unit.ascent(),
+                    unit.ascent() + unit.descent()};
+    // Outlines that fill a square of their own would become flat in the height of a line, and those
+    // of a damaged font, whose lines have next to no height, huge.
+    const bool fillsSquare = isWide(character) && !font.downloaded;
+    if (fillsSquare || outline.lineHeight < flattestLine) {
         outline.ascent = ascentOfSquare;
         outline.lineHeight = 1;
     }
@@ -45,17 +54,16 @@ Outline measured(const char* family, char32_t character) {
 }
 
 // Texts repeat their letters, and to measure one takes longer than to draw it.
-const Outline& outlineOf(const char* family, char32_t character) {
+const Outline& outlineOf(const Font& font, char32_t character) {
     constexpr std::size_t mostOutlines = 4096;
     thread_local std::map<std::pair<std::string, char32_t>, Outline> outlines;
     if (outlines.size() > mostOutlines) {
         outlines.clear();
     }
-    const auto key = std::pair<std::string, char32_t>(family, character);
+    const auto key = std::pair<std::string, char32_t>(font.family, character);
     const auto found = outlines.find(key);
-    return found != outlines.end()
-               ? found->second
-               : outlines.emplace(key, measured(family, character)).first->second;
+    return found != outlines.end() ? found->second
+                                   : outlines.emplace(key, measured(font, character)).first->second;
 }
 
 // The size of an em in dots.
@@ -79,11 +87,11 @@ struct PlacedGlyph {
 };
 
 PlacedGlyph placed(const Font& font, std::int32_t width, std::int32_t height, char32_t character) {
-    const Outline& outline = outlineOf(font.family, character);
+    const Outline& outline = outlineOf(font, character);
     const EmSize em = emSize(font, outline, width, height);
     // Down to the row: rounded up, the base line would push an underscore out of a small cell.
     const auto baseLine = static_cast<std::int32_t>(std::floor(em.height * outline.ascent));
-    return {SizedFont(outline.face.get(), em.width, em.height), outline.index, baseLine};
+    return {SizedFont(outline.face, em.width, em.height), outline.index, baseLine};
 }
 
 std::int32_t cellWidth(const Font& font, std::int32_t width, char32_t character) {
@@ -99,6 +107,14 @@ Area inkArea(const PlacedGlyph& glyph) {
     const auto right = static_cast<std::int64_t>(std::ceil(ink.x_bearing + ink.width)) + 1;
     const auto bottom = static_cast<std::int64_t>(std::ceil(ink.y_bearing + ink.height)) + 1;
     return {left, glyph.baseLine + top, right - left, bottom - top};
+}
+
+// The letters of a damaged font may be a thousand times as large as its lines are high. Those of
+// others are within some squares of that height, long ligatures too.
+bool isHuge(const Area& ink, std::int32_t width, std::int32_t height) {
+    constexpr std::int64_t squares = 16;
+    constexpr std::int64_t margin = 2;  // of what is empty around the smallest ones
+    return ink.width * ink.height > squares * (width + margin) * (height + margin);
 }
 
 // A surface of one bit per dot, its lowest bit on the left where the machine's bytes begin with
@@ -162,6 +178,9 @@ Glyph drawn(const Font& font, std::int32_t width, std::int32_t height, char32_t 
     const std::int32_t place = font.isScalable() ? width : result.advance;
     const PlacedGlyph glyph = placed(font, place, height, character);
     const Area area = font.isScalable() ? inkArea(glyph) : Area{0, 0, place, height};
+    if (isHuge(area, width, height)) {
+        return result;
+    }
     BitSurface surface(area.width, area.height);
     if (surface.isFine()) {
         surface.draw(glyph, area);
@@ -190,7 +209,7 @@ std::int32_t advanceOf(const Font& font, std::int32_t width, std::int32_t height
     if (character < U' ') {
         return 0;
     }
-    const Outline& outline = outlineOf(font.family, character);
+    const Outline& outline = outlineOf(font, character);
     return std::max(rounded(emSize(font, outline, width, height).width * outline.advance), 0);
 }
 

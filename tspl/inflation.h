@@ -20,15 +20,17 @@ public:
     Inflation& operator=(const Inflation&) = delete;
 
     /// Hands on what the next data hold, in pieces of at most 64 KiB, until `take` has had
-    /// `mostBytes` in all; what is behind the end of the zlib data is left out.
+    /// `mostBytes` in all; what is more than that, or behind the end of the zlib data, is left out.
     void feed(std::span<const std::uint8_t> data, std::uint64_t mostBytes, const Take& take);
 
     /// Bytes that came out so far.
     [[nodiscard]] std::uint64_t bytes() const { return bytes_; }
-    /// Whether something other than zlib data came.
+    /// Whether something other than zlib data came, or data that their checksum is not that of.
     [[nodiscard]] bool isBroken() const { return isBroken_; }
 
 private:
+    std::span<const std::uint8_t> inflateInto(std::span<std::uint8_t> room);
+
     std::unique_ptr<z_stream_s> stream_;
     std::uint64_t bytes_ = 0;
     bool isBroken_ = false;

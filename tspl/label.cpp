@@ -12,8 +12,13 @@ constexpr std::int64_t dotsPerByte = 8;
 // A label of unknown width: more dots than any print head has.
 constexpr std::int64_t unknownWidth = 16384;
 
+// However they are written. How many dots a millimetre has is not known yet.
 bool isSame(const Length& a, const Length& b) {
-    return a.value == b.value && a.unit == b.unit && a.precision == b.precision;
+    if (a.unit == Unit::Dot || b.unit == Unit::Dot) {
+        return a.unit == b.unit && a.value == b.value;
+    }
+    constexpr double rounding = 1e-9;
+    return std::abs(lengthInDots(a, highestDpi) - lengthInDots(b, highestDpi)) <= rounding;
 }
 
 bool areSame(const std::optional<Length>& a, const std::optional<Length>& b) {
@@ -83,6 +88,7 @@ void Label::clear() {
     widest_ = {};
     highest_ = {};
     drawn_.clear();
+    lacksMarks_ = false;
 }
 
 // Only a command that reaches farther than those before can be the first one over an edge.
@@ -129,25 +135,28 @@ LabelDots Label::dots() {
     if (refused_) {
         return {};
     }
-    const int dpi = resolution();
+    const auto [dpi, source] = knownResolution();
     const Area burnt = size_ && size_->height ? Area{} : canvas_.burntArea();
     return {size_ ? wholeColumns(size_->width, dpi, widest_.end)
                   : std::clamp(widest_.end, burnt.x + burnt.width, canvas_.width()),
             size_ && size_->height
                 ? wholeDots(*size_->height, dpi, highest_.end)
                 : std::clamp(highest_.end, burnt.y + burnt.height, canvas_.height()),
-            dpi};
+            dpi, source};
 }
 
-int Label::resolution() {
+Label::Resolution Label::knownResolution() {
     if (givenDpi_) {
-        return *givenDpi_;
+        return {*givenDpi_, DpiSource::Given};
     }
     if (size_ && widest_.end > 0) {
-        const auto dpi = nearestDpi(size_->width, widest_.end);
-        lastDpi_ = dpi ? dpi : lastDpi_;
+        if (const auto dpi = nearestDpi(size_->width, widest_.end)) {
+            lastDpi_ = dpi;
+            return {*dpi, DpiSource::Bitmaps};
+        }
     }
-    return lastDpi_.value_or(usualDpi);
+    return lastDpi_ ? Resolution{*lastDpi_, DpiSource::LabelBefore}
+                    : Resolution{usualDpi, DpiSource::Usual};
 }
 
 std::optional<Label::Overhang> Label::widestOverhang(const LabelDots& dots) const {

@@ -10,11 +10,20 @@
 
 namespace tspl {
 
+/// How the resolution of a label is known.
+enum class DpiSource {
+    Given,        ///< it is the printer's
+    Bitmaps,      ///< the label's bitmaps fill the width of SIZE
+    LabelBefore,  ///< it is that of the last label that told one
+    Usual,        ///< it is that of most printers
+};
+
 /// Size of a label in dots at its resolution.
 struct LabelDots {
     std::int64_t width = 0;
     std::int64_t height = 0;
     int dpi = 0;
+    DpiSource dpiSource = DpiSource::Usual;
 };
 
 /// The label that is being drawn: its size, as far as it is known, and its dots.
@@ -42,9 +51,14 @@ public:
     /// none.
     void noteBitmap(const BitmapHead& head, std::int64_t x, std::int64_t y);
 
+    /// Takes notice of a command that is meant to leave a mark and has left none on the canvas.
+    void noteUndrawn() { lacksMarks_ = true; }
+    /// Whether there was such a command: a bare canvas may not be what was meant then.
+    [[nodiscard]] bool lacksMarks() const { return lacksMarks_; }
+
     /// Dots to the inch: the printer's when it is known, else what the bitmaps that are drawn tell,
     /// or those before, or 203.
-    [[nodiscard]] int resolution();
+    [[nodiscard]] int resolution() { return knownResolution().dpi; }
 
     /// Takes notice of what the command at `place` has drawn on the canvas.
     void noteDrawn(const Place& place);
@@ -69,6 +83,11 @@ public:
     [[nodiscard]] std::optional<Overhang> highestOverhang(const LabelDots& dots) const;
 
 private:
+    struct Resolution {
+        int dpi = 0;
+        DpiSource source = DpiSource::Usual;
+    };
+    [[nodiscard]] Resolution knownResolution();
     [[nodiscard]] bool isTooLarge(const LabelSize& size) const;
     [[nodiscard]] int canvasDpi() const;
     [[nodiscard]] double mostRowsOf(const LabelSize& size, double width) const;
@@ -87,6 +106,7 @@ private:
     };
     std::vector<Drawn> drawn_;
     bool refused_ = false;
+    bool lacksMarks_ = false;
 };
 
 }  // namespace tspl

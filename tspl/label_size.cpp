@@ -7,15 +7,16 @@ namespace {
 
 constexpr int sPrinterDpi[] = {203, 300, 600};
 
-// What is called 203 dpi is 8 dots to the millimetre: a label of 150 mm may have 1200 rows. Sizes
-// with decimals were worked out from dots and a resolution.
+// What is called 203 dpi is 8 dots to the millimetre: a label of 150 mm may have 1200 rows, and
+// one of 97.5 mm 780. Other lengths were worked out from dots and a resolution.
 std::optional<std::int64_t> metricDots(const Length& length, int dpi) {
     constexpr int metricDpi = 203;
     constexpr double dotsPerMillimetre = 8;
-    if (dpi != metricDpi || length.unit != Unit::Millimetre || length.precision != 0) {
+    const double dots = length.value * dotsPerMillimetre;
+    if (dpi != metricDpi || length.unit != Unit::Millimetre || dots != std::floor(dots)) {
         return std::nullopt;
     }
-    return std::llround(length.value * dotsPerMillimetre);
+    return std::llround(dots);
 }
 
 }  // namespace

@@ -45,24 +45,35 @@ std::optional<std::string> readText(Printer& printer, const Command& command, st
     return text->bytes;
 }
 
+// What stands for a font that is neither built in nor brought along in outlines.
+Font missingFont(Printer& printer, const Command& command, const std::string& name) {
+    const bool isStored = printer.files.find(name) != nullptr;
+    const std::string font = "the font \"" + printable(name) + "\" of " + command.name;
+    if (!isStored) {
+        printer.complain(command,
+                         font + " is not in the stream; the printer needs it in its memory");
+    } else if (isOutlineFile(name)) {
+        printer.complain(command, font + " is damaged or has no outlines");
+    }
+    return standInOf(name);
+}
+
+// A stream that brings a font along means that one, also where printers have one of its name.
 std::optional<Font> readFont(Printer& printer, const Command& command, std::size_t index) {
     const auto name = readText(printer, command, index);
     if (!name) {
         return std::nullopt;
     }
-    const auto builtIn = fontOf(*name);
-    if (builtIn) {
+    if (const auto font = printer.files.font(*name)) {
+        return fontOf(font);
+    }
+    if (auto builtIn = fontOf(*name)) {
         return builtIn;
     }
-    const bool isStored = printer.files.find(*name) != nullptr;
-    if (!isStored && !isOutlineFile(*name)) {
+    if (printer.files.find(*name) == nullptr && !isFontFile(*name)) {
         return refuse(printer, command, "the font \"" + printable(*name) + '"');
     }
-    if (!isStored) {
-        printer.complain(command, "the font \"" + printable(*name) + "\" of " + command.name +
-                                      " is neither built in nor downloaded before");
-    }
-    return standInOf(*name);
+    return missingFont(printer, command, *name);
 }
 
 std::int32_t inDots(std::int32_t points, int dpi) {
@@ -177,7 +188,10 @@ std::optional<Lettering> readLettering(Printer& printer, const Command& command,
     if (!frame || !font || !alignment || !text) {
         return std::nullopt;
     }
-    printer.remarkOnce(command, command.name + " is drawn in a font that is only alike");
+    printer.remarkOnce(
+        command, command.name + (font->font.downloaded ? " is drawn in the font that the stream "
+                                                         "brings along; its dots are only alike"
+                                                       : " is drawn in a font that is only alike"));
     return Lettering{*font, *frame, *alignment,
                      readCharacters(printer, command, font->font, *text)};
 }

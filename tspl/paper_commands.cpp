@@ -40,10 +40,16 @@ void printLabel(Printer& printer, const Command& command, std::int32_t sets, std
     const std::uint64_t printed = picture.burntDots();
     const std::uint64_t outside = sum(onCanvas - printed, printer.label.canvas().dotsOutside());
     if (outside > 0) {
-        printer.complain(printer.label.overhanging(dots).value_or(command),
-                         std::to_string(outside) + " dots lie outside the label and are cut off");
+        printer.complain(
+            printer.label.overhanging(dots).value_or(command),
+            outside == 1 ? "1 dot lies outside the label and is cut off"
+                         : std::to_string(outside) + " dots lie outside the label and are cut off");
     }
-    printer.sink().onLabel({printer.labels, sets, copies, picture});
+    if (printed == 0 && outside == 0 && !printer.label.lacksMarks()) {
+        printer.complain(command, "the label is blank");
+    }
+    printer.sink().onLabel(
+        {printer.labels, sets, copies, picture, dots.dpiSource, printer.placement});
 }
 
 void print(Printer& printer, const Command& command) {
@@ -59,11 +65,16 @@ void print(Printer& printer, const Command& command) {
     printLabel(printer, command, sets, copies);
 }
 
+// Dots by which the paper moves.
+void checkDistance(Printer& printer, const Command& command) {
+    checkRange(printer, command, 0, 0, 9999, "the distance");
+}
+
 constexpr CommandRule rules[] = {
     {"PRINT", 1, 2, ArgumentKind::Integers, Effect::Obeyed, print},
-    {"FEED", 1, 1, ArgumentKind::Integers, Effect::NoMark},
-    {"BACKFEED", 1, 1, ArgumentKind::Integers, Effect::NoMark},
-    {"BACKUP", 1, 1, ArgumentKind::Integers, Effect::NoMark},
+    {"FEED", 1, 1, ArgumentKind::Integers, Effect::NoMark, checkDistance},
+    {"BACKFEED", 1, 1, ArgumentKind::Integers, Effect::NoMark, checkDistance},
+    {"BACKUP", 1, 1, ArgumentKind::Integers, Effect::NoMark, checkDistance},
     {"FORMFEED", 0, 0, ArgumentKind::Any, Effect::NoMark},
     {"HOME", 0, 0, ArgumentKind::Any, Effect::NoMark},
     {"CUT", 0, 0, ArgumentKind::Any, Effect::NoMark},

@@ -4,6 +4,7 @@
 #include <bit>
 #include <memory>
 #include <new>
+#include <span>
 #include <vector>
 
 namespace tspl {
@@ -34,6 +35,23 @@ std::uint8_t leftmostFirst(unsigned char byte) {
     return static_cast<std::uint8_t>(turned);
 }
 
+// Most of what an outline lies in is blank, which is passed over.
+void drawRow(DotCanvas& canvas, std::int64_t x, std::int64_t y,
+             std::span<const unsigned char> row) {
+    const auto isBlank = [](unsigned char byte) { return byte == 0; };
+    std::vector<std::uint8_t> bits;
+    auto end = row.begin();
+    while (end != row.end()) {
+        const auto begin = std::find_if_not(end, row.end(), isBlank);
+        end = std::find_if(begin, row.end(), isBlank);
+        bits.resize(static_cast<std::size_t>(end - begin));
+        std::transform(begin, end, bits.begin(), leftmostFirst);
+        if (!bits.empty()) {
+            canvas.drawBits(x + 8 * (begin - row.begin()), y, bits, DrawMode::Or);
+        }
+    }
+}
+
 void drawStrip(DotCanvas& canvas, const Area& strip, const std::function<void(cairo_t*)>& draw) {
     const Surface surface(cairo_image_surface_create(CAIRO_FORMAT_A1, static_cast<int>(strip.width),
                                                      static_cast<int>(strip.height)));
@@ -47,10 +65,9 @@ void drawStrip(DotCanvas& canvas, const Area& strip, const std::function<void(ca
     }
     cairo_surface_flush(surface.get());
     const unsigned char* row = cairo_image_surface_get_data(surface.get());
-    std::vector<std::uint8_t> bits(static_cast<std::size_t>((strip.width + 7) / 8));
+    const auto rowBytes = static_cast<std::size_t>((strip.width + 7) / 8);
     for (std::int64_t y = 0; y < strip.height; ++y) {
-        std::transform(row, row + bits.size(), bits.begin(), leftmostFirst);
-        canvas.drawBits(strip.x, strip.y + y, bits, DrawMode::Or);
+        drawRow(canvas, strip.x, strip.y + y, {row, rowBytes});
         row += cairo_image_surface_get_stride(surface.get());
     }
 }

@@ -22,6 +22,7 @@ struct StackOptions {
     std::int32_t mostRows = 90;
     bool truncated = false;
     bool centred = false;
+    bool hasText = false;
 };
 
 // U names a text line with its place, two plain numbers of its own; L and P say how the content is
@@ -39,8 +40,7 @@ void readOption(StackOptions& options, const std::string& argument) {
             options.row = numberFrom(value, 1, 99, "the height behind H");
             break;
         case 'L':
-        case 'U':
-            numberFrom(value, 0, sLargestArea, "the number behind L or U");
+            numberFrom(value, 0, sLargestArea, "the number behind L");
             break;
         case 'M':
             options.centred = numberFrom(value, 0, 1, "the place behind M") == 1;
@@ -54,6 +54,10 @@ void readOption(StackOptions& options, const std::string& argument) {
         case 'T':
             options.truncated = numberFrom(value, 0, 1, "the number behind T") == 1;
             break;
+        case 'U':
+            numberFrom(value, 0, sLargestArea, "the number behind U");
+            options.hasText = true;
+            break;
         case 'W':
             options.module = numberFrom(value, 1, 99, "the width behind W");
             break;
@@ -65,8 +69,7 @@ void readOption(StackOptions& options, const std::string& argument) {
 StackOptions optionsOf(const Command& command, std::size_t first) {
     StackOptions options;
     std::size_t numbers = 0;  // that may follow
-    for (std::size_t i = first; i + 1 < command.arguments.size(); ++i) {
-        const std::string& argument = command.arguments[i];
+    for (const std::string& argument : optionsBefore(command, first)) {
         if (numbers > 0 && parseInteger(argument)) {
             --numbers;
             continue;
@@ -120,6 +123,9 @@ void drawPdf417(Printer& printer, const Command& command) {
                                     " x " + std::to_string(options.row) +
                                     " dots it fills its area");
     }
+    if (options.hasText) {
+        printer.remark(command, "the text beside PDF417 is not drawn");
+    }
     CodeDrawing drawing = drawingOf(printer, command, rotation);
     if (options.centred) {
         drawing.shift((width - symbol.width() * options.module) / 2,
@@ -133,14 +139,14 @@ void drawMicroPdf417(Printer& printer, const Command& command) {
     constexpr std::int32_t usualRow = 10;
     const int rotation = rotationFrom(command.arguments[2]);
     StackOptions options;
-    for (std::size_t i = firstOption; i + 1 < command.arguments.size(); ++i) {
-        const auto [letter, value] = optionFrom(command.arguments[i]);
+    for (const std::string& argument : optionsBefore(command, firstOption)) {
+        const auto [letter, value] = optionFrom(argument);
         if (letter == 'C') {
             options.columns = numberFrom(value, 0, 4, "the number behind C");
         } else if (letter == 'W' || letter == 'H') {
-            readOption(options, command.arguments[i]);
+            readOption(options, argument);
         } else {
-            throw unknownOption(command.arguments[i]);
+            throw unknownOption(argument);
         }
     }
     const CodeSymbol symbol =

@@ -49,6 +49,9 @@ public:
     void complain(const Place& place, std::string text);
     void remark(const Place& place, std::string text);
 
+    /// Remarks why a command that leaves a mark on paper leaves none on the picture.
+    void remarkUndrawn(const Place& place, std::string text);
+
     /// Remarks what holds of many commands of a label at the first one.
     void remarkOnce(const Place& place, const std::string& text);
     void forgetRemarks() { remarked_.clear(); }

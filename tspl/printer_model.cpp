@@ -67,7 +67,7 @@ std::string PrinterModel::obey(const Command& command) {
         return "not understood";
     }
     if (rule->effect == Effect::NotDrawn) {
-        printer_.remark(command, command.name + " is not drawn");
+        printer_.remarkUndrawn(command, command.name + " is not drawn");
         return "not drawn";
     }
     if (rule->obey != nullptr) {
@@ -91,6 +91,7 @@ std::string PrinterModel::refuse(const Command& command) {
 
 // Printers run them; what they draw cannot be told without running them here, too.
 std::string PrinterModel::passOverBasic(const Command& command) {
+    printer_.label.noteUndrawn();
     if (!std::exchange(hasSeenBasic_, true)) {
         printer_.remark(command, "BASIC statements are not run");
     }

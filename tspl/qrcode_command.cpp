@@ -55,8 +55,8 @@ void readOption(QrOptions& options, const std::string& argument) {
 QrOptions optionsOf(const Command& command) {
     constexpr std::size_t first = 6;
     QrOptions options;
-    for (std::size_t i = first; i + 1 < command.arguments.size(); ++i) {
-        readOption(options, command.arguments[i]);
+    for (const std::string& argument : optionsBefore(command, first)) {
+        readOption(options, argument);
     }
     return options;
 }

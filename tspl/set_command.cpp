@@ -19,6 +19,14 @@ constexpr std::string_view sSettings[] = {
     "APPLICATOR",   "COUNTER", "GAP",     "BLINE",   "COM1",    "PRINTKEY",   "RESPONSE",
     "PRINTQUALITY", "STANDBY", "ENCODER", "USBHOST", "PRINTER", "SENSOR_REF", "LABELERROR"};
 
+// It cuts after each label, after a job, or after a number of labels.
+bool isCutting(std::string_view value) {
+    constexpr std::int32_t mostLabels = 65535;
+    const auto labels = parseInteger(value);
+    return value == "ON" || value == "OFF" || value == "BATCH" ||
+           (labels && *labels >= 0 && *labels <= mostLabels);
+}
+
 template <std::size_t N>
 bool contains(const std::string_view (&names)[N], std::string_view name) {
     return std::find(std::begin(names), std::end(names), name) != std::end(names);
@@ -78,9 +86,8 @@ std::optional<std::string> obeySet(const Command& command, AfterLabel& afterLabe
     if (isSwitch && !off && value != "ON") {
         return "SET " + key + " takes ON or OFF, not " + printable(value);
     }
-    // It cuts after each label, after a job, or after a number of labels.
-    if (isCutter && !off && value != "ON" && value != "BATCH" && !parseInteger(value)) {
-        return "SET " + key + " takes ON, OFF, BATCH or a number, not " + printable(value);
+    if (isCutter && !isCutting(value)) {
+        return "SET " + key + " takes ON, OFF, BATCH or 0 to 65535, not " + printable(value);
     }
     if (bool* state = stateOf(key, afterLabel)) {
         *state = !off;

@@ -66,6 +66,11 @@ void checkDensity(Printer& printer, const Command& command) {
     }
 }
 
+// Countries have the numbers by which they are called on the telephone.
+void checkCountry(Printer& printer, const Command& command) {
+    checkRange(printer, command, 0, 1, 999, "the number");
+}
+
 void set(Printer& printer, const Command& command) {
     if (const auto fault = obeySet(command, printer.afterLabel)) {
         printer.complain(command, *fault);
@@ -93,7 +98,7 @@ constexpr CommandRule rules[] = {
     {"SPEED", 1, 1, ArgumentKind::Any, Effect::Obeyed, checkSpeed},
     {"DENSITY", 1, 1, ArgumentKind::Integers, Effect::Obeyed, checkDensity},
     {"SET", 1, anyNumber, ArgumentKind::Any, Effect::Obeyed, set},
-    {"COUNTRY", 1, 1, ArgumentKind::Any, Effect::NoMark},
+    {"COUNTRY", 1, 1, ArgumentKind::Integers, Effect::NoMark, checkCountry},
     {"CODEPAGE", 1, 1, ArgumentKind::Any, Effect::Obeyed, setCodePage},
 };
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "tspl/label.h"
 #include "tspl/label_picture.h"
 
 namespace tspl {
@@ -49,6 +50,8 @@ struct PrintedLabel {
     std::int32_t sets = 1;
     std::int32_t copies = 1;
     LabelPicture picture;
+    DpiSource dpiSource = DpiSource::Usual;  ///< how its resolution is known
+    Placement placement{};                   ///< as the stream has set it
 };
 
 /// Takes what a printer would do with a stream.

@@ -13,16 +13,6 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-std::string_view unquoted(std::string_view text) {
-    if (text.starts_with('"')) {
-        text.remove_prefix(1);
-    }
-    if (text.ends_with('"')) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
-
 std::string upperCase(std::string_view text) {
     std::string result(text);
     for (char& c : result) {

@@ -10,9 +10,6 @@ namespace tspl {
 /// The text without blanks and tabs at both ends.
 std::string_view trimmed(std::string_view text);
 
-/// The text without the quotation marks around it.
-std::string_view unquoted(std::string_view text);
-
 /// The text with the letters a to z as capitals; other bytes stay.
 std::string upperCase(std::string_view text);
 

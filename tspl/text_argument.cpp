@@ -49,6 +49,11 @@ std::optional<TextArgument> parseTextArgument(std::string_view argument) {
     return text;
 }
 
+std::string nameOf(std::string_view argument) {
+    const auto text = parseTextArgument(argument);
+    return text && text->behind.empty() ? text->bytes : std::string(argument);
+}
+
 bool isExpression(std::string_view argument) {
     const auto text = parseTextArgument(argument);
     return text ? text->behind.starts_with('+') : startsAName(argument);

@@ -16,6 +16,10 @@ struct TextArgument {
 /// one.
 std::optional<TextArgument> parseTextArgument(std::string_view argument);
 
+/// An argument that is a name, such as that of a file: what stands between its quotation marks, or
+/// the argument itself, which may have none.
+std::string nameOf(std::string_view argument);
+
 /// Whether the printer works the argument out when it prints: a variable, a counter, a function or
 /// several texts in a sum.
 bool isExpression(std::string_view argument);

@@ -25,9 +25,11 @@ void drawText(Printer& printer, const Command& command) {
     constexpr std::size_t withAlignment = 8;
     const std::size_t alignment = command.arguments.size() == withAlignment ? 6 : 0;
     const auto lettering = readLettering(printer, command, {2, alignment});
-    if (lettering) {
-        drawLines(printer, *lettering, linesOf(lettering->text), 0, lineHeight(lettering->font));
+    if (!lettering) {
+        printer.label.noteUndrawn();
+        return;
     }
+    drawLines(printer, *lettering, linesOf(lettering->text), 0, lineHeight(lettering->font));
 }
 
 /// The room of a BLOCK and what it adds to TEXT.
@@ -53,7 +55,11 @@ std::optional<Block> readBlock(Printer& printer, const Command& command) {
         printer.complain(command, "BLOCK without an extent: " + quoted(command));
         return std::nullopt;
     }
-    return Block{*width, *height, *between, *fits != 0};
+    if (*fits < 0 || *fits > 1) {
+        printer.complain(command, "BLOCK does not take the fit " + std::to_string(*fits));
+        return std::nullopt;
+    }
+    return Block{*width, *height, *between, *fits == 1};
 }
 
 // From one line to the next; space may be negative and let lines overlap.
@@ -100,6 +106,7 @@ void drawBlock(Printer& printer, const Command& command) {
     auto lettering = readLettering(printer, command, {4, last > alignment ? alignment : 0});
     const auto block = readBlock(printer, command);
     if (!lettering || !block) {
+        printer.label.noteUndrawn();
         return;
     }
     if (block->fits) {

@@ -49,7 +49,7 @@ def picture_of(folder, command, width, height):
     run = subprocess.run([PREVIEWER, '-o', prefix, '--dpi', '203'], input=stream.encode('latin-1'),
                          capture_output=True, check=True)
     said = [line for line in run.stderr.decode().splitlines()
-            if ': byte ' in line and 'hexagons of MAXICODE' not in line]
+            if ', byte ' in line and 'hexagons of MAXICODE' not in line]
     assert not said, said
     return prefix + '-1.png'
 

@@ -36,7 +36,7 @@ std::string previewed(std::span<const std::uint8_t> stream, std::size_t pieceByt
     std::ostringstream out;
     preview::TextListing text(out);
     preview::JsonListing json(out);
-    preview::FindingsListing findings(out, "input", true);
+    preview::FindingsListing findings(out, "input", {true, true});
     preview::SinkList sinks;
     sinks.add(text);
     sinks.add(json);

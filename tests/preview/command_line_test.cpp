@@ -23,7 +23,7 @@ TEST(PreviewCommandLine, AFileIsDrawnIntoTheCurrentFolderUnderTheFilesName) {
     const FilterResult result = runPreview(folder, {file});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.standardOutput,
-              "second label.v2-1.png: 16 x 8 dots at 203 dpi, 16.4 % burnt\n");
+              "second label.v2-1.png: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt\n");
     EXPECT_EQ(result.standardError, "");
     EXPECT_EQ(folder.names(), Names{"second label.v2-1.png"});
     EXPECT_EQ(streams.names(), Names{"second label.v2.tspl"});
@@ -43,7 +43,8 @@ TEST(PreviewCommandLine, StandardInputIsDrawnAsLabel) {
         const TemporaryFolder folder;
         const FilterResult result = runPreview(folder, arguments, smallLabel(letterBitmap));
         EXPECT_EQ(result.status, 0);
-        EXPECT_EQ(result.standardOutput, "label-1.png: 16 x 8 dots at 203 dpi, 16.4 % burnt\n");
+        EXPECT_EQ(result.standardOutput,
+                  "label-1.png: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt\n");
         EXPECT_EQ(result.standardError, "");
         EXPECT_EQ(folder.names(), Names{"label-1.png"});
         expectLetter(folder, "label-1.png");
@@ -77,10 +78,11 @@ TEST(PreviewCommandLine, EachPrintGivesOnePictureWhateverItsCopies) {
     const FilterResult result = runPreview(
         folder, {}, smallLabel(blank) + smallLabel(letterBitmap, "PRINT 2,3\r\n") + "PRINT 1\r\n");
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.standardOutput,
-              "label-1.png: 16 x 8 dots at 203 dpi, 0.0 % burnt\n"
-              "label-2.png: 16 x 8 dots at 203 dpi, 16.4 % burnt, printed 6 times\n"
-              "label-3.png: 16 x 8 dots at 203 dpi, 16.4 % burnt\n");
+    EXPECT_EQ(
+        result.standardOutput,
+        "label-1.png: 16 x 8 dots at 203 dpi (by its bitmaps), 0.0 % burnt\n"
+        "label-2.png: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt, printed 6 times\n"
+        "label-3.png: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt\n");
     EXPECT_EQ(folder.names(), (Names{"label-1.png", "label-2.png", "label-3.png"}));
     EXPECT_EQ(differenceOf(drawnPicture(std::vector<std::string>(8, "................")),
                            readPng(folder.path("label-1.png")).picture),
@@ -96,12 +98,12 @@ TEST(PreviewCommandLine, APictureOfTheSameNameIsReplaced) {
     expectLetter(folder, "label-1.png");
 }
 
-TEST(PreviewCommandLine, AnEmptyStreamGivesNoPictureAndNoWord) {
+TEST(PreviewCommandLine, AnEmptyStreamGivesNoPictureAndSaysSo) {
     const TemporaryFolder folder;
     const FilterResult result = runPreview(folder, {});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.standardOutput, "");
-    EXPECT_EQ(result.standardError, "");
+    EXPECT_EQ(result.standardError, "standard input: no label: nothing is printed without PRINT\n");
     EXPECT_EQ(folder.names(), Names{});
 }
 
@@ -115,7 +117,7 @@ TEST(PreviewCommandLine, WithOnesBurningThePictureIsTheNegative) {
     const TemporaryFolder folder;
     const std::string stream = smallLabel(letterBitmap);
     EXPECT_EQ(runPreview(folder, {"--burn", "ones"}, stream).standardOutput,
-              "label-1.png: 16 x 8 dots at 203 dpi, 83.6 % burnt\n");
+              "label-1.png: 16 x 8 dots at 203 dpi (by its bitmaps), 83.6 % burnt\n");
     EXPECT_EQ(differenceOf(drawnPicture(negative), readPng(folder.path("label-1.png")).picture),
               "");
     EXPECT_EQ(runPreview(folder, {"--burn=zeros"}, stream).status, 0);
@@ -186,13 +188,13 @@ TEST(PreviewCommandLine, AWrongCommandLineGivesStatusTwoAndAWordOnHowToGetHelp) 
                                                          {"--output"},
                                                          {"-o", ""},
                                                          {"--pdf", ""},
+                                                         {"--pdf", "-"},
                                                          {"--pdf"},
                                                          {"--output="},
                                                          {"--terminal", "--json"},
                                                          {"--check", "--terminal"},
                                                          {"--list", "--json"},
-                                                         {"--check", "--list"},
-                                                         {"--json", "--check"}};
+                                                         {"--check", "--list", "--json"}};
     for (const auto& arguments : wrong) {
         const FilterResult result = runPreview(folder, arguments, smallLabel(letterBitmap));
         EXPECT_EQ(result.status, 2) << testing::PrintToString(arguments);

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
+#include "tests/preview/dot_picture.h"
 #include "tests/preview/preview_run.h"
 
 namespace {
@@ -104,6 +106,34 @@ TEST(PreviewFailure, AFailedPictureDoesNotKeepTheNextOneFromBeingDrawn) {
         runPreview(folder, {}, smallLabel(letterBitmap) + smallLabel(letterBitmap));
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(folder.names(), (Names{"label-1.png", "label-2.png"}));
+}
+
+TEST(PreviewFailure, APictureDoesNotTakeThePlaceOfWhatIsNoFile) {
+    const TemporaryFolder folder;
+    ASSERT_EQ(mkfifo(folder.path("p-1.png").c_str(), 0600), 0);
+    ASSERT_EQ(mkfifo(folder.path("p.pdf").c_str(), 0600), 0);
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"-o", "p"}, std::vector<std::string>{"--pdf", "p.pdf"}}) {
+        const FilterResult result = runPreview(folder, arguments, smallLabel(letterBitmap));
+        EXPECT_EQ(result.status, 1);
+        EXPECT_NE(result.standardError.find(": is no regular file\n"), std::string::npos)
+            << result.standardError;
+    }
+    EXPECT_TRUE(fs::is_fifo(folder.path("p-1.png")));
+    EXPECT_TRUE(fs::is_fifo(folder.path("p.pdf")));
+    EXPECT_EQ(folder.names(), (Names{"p-1.png", "p.pdf"}));
+}
+
+TEST(PreviewFailure, ALinkKeepsItsNameAndItsFileGetsThePicture) {
+    const TemporaryFolder folder;
+    fs::create_directory(folder.path("there"));
+    fs::create_symlink("there/new.png", folder.path("p-1.png"));
+    fs::create_symlink("p-1.png", folder.path("q-1.png"));
+    EXPECT_EQ(runPreview(folder, {"-o", "q"}, smallLabel(letterBitmap)).status, 0);
+    EXPECT_TRUE(fs::is_symlink(folder.path("p-1.png")));
+    EXPECT_TRUE(fs::is_symlink(folder.path("q-1.png")));
+    EXPECT_EQ(differenceOf(drawnPicture(letterRows), readPng(folder.path("there/new.png")).picture),
+              "");
 }
 
 TEST(PreviewFailure, AFullStandardOutputGivesStatusOneInEveryMode) {

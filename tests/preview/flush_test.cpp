@@ -18,7 +18,8 @@ std::string saidOfALabel(const std::vector<std::string>& arguments, const std::s
 }
 
 TEST(StandardOutput, IsSentOnWithEveryLabel) {
-    EXPECT_EQ(saidOfALabel({}, "\n"), "label-1.png: 16 x 8 dots at 203 dpi, 16.4 % burnt\n");
+    EXPECT_EQ(saidOfALabel({}, "\n"),
+              "label-1.png: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt\n");
     EXPECT_TRUE(saidOfALabel({"--list"}, "PRINT 1,1\n").ends_with("56  PRINT 1,1\n"));
     EXPECT_NE(saidOfALabel({"--json"}, "PRINT").find("\"type\":\"label\""), std::string::npos);
 }

@@ -14,8 +14,8 @@ namespace {
 namespace fs = std::filesystem;
 
 const std::string blankBitmap(16, '\xff');
-const std::string letterLine = " 16 x 8 dots at 203 dpi, 16.4 % burnt\n";
-const std::string blankLine = " 16 x 8 dots at 203 dpi, 0.0 % burnt\n";
+const std::string letterLine = " 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt\n";
+const std::string blankLine = " 16 x 8 dots at 203 dpi (by its bitmaps), 0.0 % burnt\n";
 
 class Follow : public testing::Test {
 protected:
@@ -43,6 +43,7 @@ TEST_F(Follow, DrawsEachLabelWhenItIsThere) {
     EXPECT_EQ(preview.output("\n"), "rec-3.png:" + blankLine);
     preview.sendSignal(SIGINT);
     EXPECT_EQ(preview.status(), -SIGINT);
+    EXPECT_EQ(preview.errors("\n"), "rec.bin: line 12, byte 190: the label is blank\n");
     EXPECT_EQ(preview.errors("\n"), "");
     expectLetter("rec-1.png");
     expectLetter("rec-2.png");
@@ -68,6 +69,8 @@ TEST_F(Follow, StartsAgainWhereAFileHasBecomeShorter) {
     RunningPreview preview(folder, {"--follow", "rec.bin"});
     EXPECT_EQ(preview.output("\n"), "rec-1.png:" + blankLine);
     fs::resize_file(file, 0);
+    EXPECT_EQ(preview.errors("\n"), "rec.bin: line 4, byte 56: the label is blank\n");
+    EXPECT_EQ(preview.errors("\n"), "rec.bin: 1 label, 1 complaint\n");
     EXPECT_EQ(preview.errors("\n"),
               "tsplpreview: rec.bin: the file has become shorter and is read from its start\n");
     append(smallLabel(letterBitmap));
@@ -85,8 +88,10 @@ TEST_F(Follow, GoesOnWithTheFileThatTakesTheName) {
     folder.write("new", smallLabel(letterBitmap));
     fs::rename(folder.path("new"), file);
     EXPECT_EQ(preview.output("\n"), "rec-1.png:" + letterLine);
+    EXPECT_EQ(preview.errors("\n"), "rec.bin: line 4, byte 56: the label is blank\n");
     EXPECT_EQ(preview.errors("\n"),
-              "rec.bin: byte 67: BITMAP is cut short: 3 of 16 bytes are there\n");
+              "rec.bin: line 5, byte 67: BITMAP is cut short: 3 of 16 bytes are there\n");
+    EXPECT_EQ(preview.errors("\n"), "rec.bin: 1 label, 2 complaints\n");
     EXPECT_EQ(preview.errors("\n"),
               "tsplpreview: rec.bin: another file has this name now, which "
               "is read from its start\n");

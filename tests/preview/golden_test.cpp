@@ -69,7 +69,8 @@ TEST_P(Golden, TheStreamIsClean) {
     const TemporaryFolder folder;
     const FilterResult result = runPreview(folder, {"--check", golden(GetParam().name + ".tspl")});
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.standardOutput, "");
+    EXPECT_EQ(result.standardOutput,
+              golden(GetParam().name + ".tspl") + ": 1 label, no complaints\n");
 }
 
 // 203 / 0.0254 = 7992.1 and 300 / 0.0254 = 11811.02 dots per metre.

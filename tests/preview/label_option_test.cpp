@@ -20,7 +20,8 @@ TEST(LabelOption, DrawsOneLabelUnderItsNumberInTheStream) {
     const TemporaryFolder folder;
     const FilterResult result = runPreview(folder, {"--label", "2"}, labels(3));
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.standardOutput, "label-2.png: 16 x 8 dots at 203 dpi, 16.4 % burnt\n");
+    EXPECT_EQ(result.standardOutput,
+              "label-2.png: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt\n");
     EXPECT_EQ(folder.names(), Names{"label-2.png"});
 }
 

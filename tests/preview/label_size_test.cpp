@@ -52,11 +52,13 @@ TEST(LabelSize, AHugeLabelIsRefusedAndTheNextOneIsDrawn) {
 #endif
     const FilterResult result = runFilter(call);
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.standardOutput, "label-2.png: 16 x 8 dots at 203 dpi, 16.4 % burnt\n");
+    EXPECT_EQ(result.standardOutput,
+              "label-2.png: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt\n");
     EXPECT_EQ(result.standardError,
-              "standard input: byte 0: a label of this size is too large to draw: "
+              "standard input: line 1, byte 0: a label of this size is too large to draw: "
               "SIZE 5000 mm,5000 mm\n"
-              "standard input: byte 75: the label has no size that can be drawn\n");
+              "standard input: line 5, byte 75: the label has no size that can be drawn\n"
+              "standard input: 2 labels, 2 complaints\n");
     EXPECT_EQ(folder.names(), std::set<std::string>{"label-2.png"});
     EXPECT_EQ(differenceOf(drawnPicture(letterRows), readPng(folder.path("label-2.png")).picture),
               "");

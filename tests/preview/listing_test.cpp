@@ -44,16 +44,17 @@ TEST(List, HasALineForEveryCommandWithItsOffset) {
               "       154  BITMAP 0,0,4,4,0,  (32 x 4 dots, 3 of 16 bytes, 58.3 % of the dots "
               "burnt)\n");
     EXPECT_EQ(result.standardError,
-              "standard input: byte 83: TLC39 is not drawn\n"
-              "standard input: byte 114: unknown command: NONSENSE \\x01\\xff\n"
-              "standard input: byte 154: BITMAP is cut short: 3 of 16 bytes are there\n");
+              "standard input: line 8, byte 83: TLC39 is not drawn\n"
+              "standard input: line 9, byte 114: unknown command: NONSENSE \\x01\\xff\n"
+              "standard input: label 1: 16 x 8 dots at 203 dpi (by its bitmaps)\n"
+              "standard input: line 12, byte 154: BITMAP is cut short: 3 of 16 bytes are there\n");
 }
 
 TEST(List, NamesTheFileInWhatItSays) {
     const TemporaryFolder folder;
     folder.write("label.tspl", "NONSENSE");
     EXPECT_EQ(runPreview(folder, {"--list", "label.tspl"}).standardError,
-              "label.tspl: byte 0: unknown command: NONSENSE\n");
+              "label.tspl: line 1, byte 0: unknown command: NONSENSE\n");
 }
 
 // The lines of a list as JSON; every one of them must be a whole object.
@@ -108,14 +109,17 @@ TEST(JsonList, HasTheSameLinesAsObjects) {
            {"receivedBytes", 1},
            {"burntDots", 4},
            {"burntShare", 0.5}}}},
-        {{"type", "remark"}, {"offset", 83}, {"text", "TLC39 is not drawn"}},
+        {{"type", "remark"}, {"offset", 83}, {"line", 8}, {"text", "TLC39 is not drawn"}},
         {{"type", "command"},
          {"offset", 83},
          {"command", "TLC39"},
          {"arguments", {"10", "0", "\"3\"", "0", "1", "1", "\"a, b\\x5cc\""}},
          {"text", "TLC39 10,0,\"3\",0,1,1,\"a, b\\x5cc\""},
          {"remark", "not drawn"}},
-        {{"type", "complaint"}, {"offset", 114}, {"text", "unknown command: NONSENSE \\x01\\xff"}},
+        {{"type", "complaint"},
+         {"offset", 114},
+         {"line", 9},
+         {"text", "unknown command: NONSENSE \\x01\\xff"}},
         {{"type", "command"},
          {"offset", 114},
          {"command", "NONSENSE"},
@@ -137,6 +141,9 @@ TEST(JsonList, HasTheSameLinesAsObjects) {
          {"width", 16},
          {"height", 8},
          {"dpi", 203},
+         {"dpiFrom", "bitmaps"},
+         {"direction", 0},
+         {"mirrored", false},
          {"sets", 1},
          {"copies", 2},
          {"burntDots", 23}},
@@ -147,6 +154,7 @@ TEST(JsonList, HasTheSameLinesAsObjects) {
          {"text", "PRINT 1,2"}},
         {{"type", "complaint"},
          {"offset", 154},
+         {"line", 12},
          {"text", "BITMAP is cut short: 3 of 16 bytes are there"}},
         {{"type", "command"},
          {"offset", 154},
@@ -160,12 +168,44 @@ TEST(JsonList, HasTheSameLinesAsObjects) {
            {"receivedBytes", 3},
            {"burntDots", 14},
            {"burntShare", 14.0 / 24}}}},
+        {{"type", "summary"}, {"labels", 1}, {"complaints", 2}, {"remarks", 1}},
     };
-    const auto lines = jsonLines(result.standardOutput);
-    ASSERT_EQ(lines.size(), expected.size()) << result.standardOutput;
+    auto lines = jsonLines(result.standardOutput);
+    ASSERT_EQ(lines.size(), expected.size() + 1) << result.standardOutput;
+    EXPECT_EQ(lines.front()["type"], "schema");
+    lines.erase(lines.begin());
     for (std::size_t i = 0; i < expected.size(); ++i) {
         EXPECT_EQ(lines[i], expected[i]);
     }
+}
+
+TEST(JsonList, NamesThePictureOfALabelWhenItIsThere) {
+    const TemporaryFolder folder;
+    const auto withPicture = jsonLines(
+        runPreview(folder, {"--json", "-o", "p"}, smallLabel(letterBitmap)).standardOutput);
+    EXPECT_EQ(withPicture.at(4)["type"], "label");
+    EXPECT_EQ(withPicture.at(4)["picture"], "p-1.png");
+    EXPECT_EQ(folder.names(), std::set<std::string>{"p-1.png"});
+    const auto without =
+        jsonLines(runPreview(folder, {"--json"}, smallLabel(letterBitmap)).standardOutput);
+    EXPECT_EQ(without.at(4)["type"], "label");
+    EXPECT_FALSE(without.at(4).contains("picture"));
+}
+
+TEST(JsonList, NamesNoPictureThatCouldNotBeWritten) {
+    const TemporaryFolder folder;
+    const FilterResult result =
+        runPreview(folder, {"--json", "-o", "missing/p"}, smallLabel(letterBitmap));
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(jsonLines(result.standardOutput).at(4)["type"], "label");
+    EXPECT_FALSE(jsonLines(result.standardOutput).at(4).contains("picture"));
+}
+
+TEST(JsonList, HasNoSummaryOfAStreamThatCannotBeRead) {
+    const TemporaryFolder folder;
+    const FilterResult result = runPreview(folder, {"--json", "."});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.standardOutput.find("summary"), std::string::npos);
 }
 
 TEST(JsonList, IsAsciiForEveryByteAndEveryLineEnd) {

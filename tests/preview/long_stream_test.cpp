@@ -28,7 +28,7 @@ TEST(LongStream, OfTwoHundredMegabytesIsCheckedInSixtyFourMebibytes) {
         folder,
         "for i in $(seq 204); do cat part; done | { ulimit -v 65536; \"$PREVIEW\" --check; }"));
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.standardOutput, "");
+    EXPECT_EQ(result.standardOutput, "standard input: 204 labels, no complaints\n");
     EXPECT_EQ(result.standardError, "");
 }
 
@@ -54,8 +54,9 @@ TEST(LongStream, OfOneEndlessLineIsSkipped) {
                   "\"$PREVIEW\" --check"));
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.standardOutput,
-              "standard input: byte 0: a line that is longer than any command is skipped\n"
-              "standard input: byte 20000002: unknown command: SPIN\n");
+              "standard input: line 1, byte 0: a line that is longer than any command is skipped\n"
+              "standard input: line 2, byte 20000002: unknown command: SPIN\n"
+              "standard input: no label: nothing is printed without PRINT; 2 complaints\n");
 }
 
 }  // namespace

@@ -65,7 +65,9 @@ TEST(PdfOption, WritesAPageForEachLabelAndNoPicture) {
         runPreview(folder, {"--pdf", "all.pdf"},
                    smallLabel(letterBitmap) + smallLabel(blank, "PRINT 2,3\r\n"));
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.standardError, "");
+    EXPECT_EQ(result.standardError,
+              "standard input: line 8, byte 123: the label is blank\n"
+              "standard input: 2 labels, 1 complaint\n");
     EXPECT_EQ(result.standardOutput, "all.pdf: 2 pages\n");
     EXPECT_EQ(folder.names(), Names{"all.pdf"});
     EXPECT_EQ(infoOf(folder, "all.pdf", "Pages"), "2");
@@ -163,7 +165,9 @@ TEST(PdfOption, WithoutALabelWritesNothingAndSaysSo) {
     folder.write("old.pdf", "old");
     const FilterResult result = runPreview(folder, {"--pdf", "old.pdf"}, "CLS\n");
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.standardError, "tsplpreview: old.pdf: there is no label for it\n");
+    EXPECT_EQ(result.standardError,
+              "standard input: no label: nothing is printed without PRINT\n"
+              "tsplpreview: old.pdf: there is no label for it\n");
     EXPECT_EQ(readFile(folder.path("old.pdf")), "old");
     EXPECT_EQ(runPreview(folder, {"--pdf", "old.pdf"}, "PRINT 1\n").status, 1);
     EXPECT_EQ(folder.names(), Names{"old.pdf"});

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <nlohmann/json.hpp>
 #include <random>
@@ -95,6 +96,20 @@ std::uint32_t dotsPerMetre(unsigned dpi) {
     return dpi == 203 ? 7992 : dpi == 300 ? 11811 : 23622;
 }
 
+// Of a page of nothing, and of nothing else, there is to complain.
+void expectComplaintsOfBlankPagesOnly(const std::string& list,
+                                      const std::vector<DotPicture>& expected) {
+    const auto blank =
+        std::count_if(expected.begin(), expected.end(), [](const DotPicture& picture) {
+            return std::find(picture.dots.begin(), picture.dots.end(), 1) == picture.dots.end();
+        });
+    const auto complaints = linesOf(list, "complaint");
+    RC_ASSERT(static_cast<std::ptrdiff_t>(complaints.size()) == blank);
+    for (const json& complaint : complaints) {
+        RC_ASSERT(complaint.at("text") == "the label is blank");
+    }
+}
+
 // Prints the job, draws the stream and compares each page.
 void checkRoundTrip(const Job& job, const std::vector<std::string>& options) {
     const TemporaryFolder folder;
@@ -105,10 +120,10 @@ void checkRoundTrip(const Job& job, const std::vector<std::string>& options) {
     const FilterResult result = runPreview(out, arguments, stream);
     RC_ASSERT(result.status == 0);
     RC_ASSERT(result.standardError == "");
-    RC_ASSERT(linesOf(result.standardOutput, "complaint").empty());
-    RC_ASSERT(linesOf(result.standardOutput, "remark").empty());
     const auto labels = linesOf(result.standardOutput, "label");
     const auto expected = picturesOf(job);
+    expectComplaintsOfBlankPagesOnly(result.standardOutput, expected);
+    RC_ASSERT(linesOf(result.standardOutput, "remark").empty());
     RC_ASSERT(labels.size() == expected.size());
     RC_ASSERT(out.names().size() == expected.size());
     for (std::size_t i = 0; i < expected.size(); ++i) {
@@ -129,13 +144,16 @@ RC_GTEST_PROP(RoundTrip, PagesOfWholeBytesComeBackAsTheirFinishedImages, ()) {
 
 // SIZE gives the width to a tenth of a millimetre. The previewer cuts no column off that the page
 // can have: true where `width` is the most that it can be, and where whole bytes are more than
-// that.
+// that. Neither is told apart where it hangs on the last bits of a sum: 6.35 mm are 150 dots of 600
+// to the inch.
 bool isToldBySize(unsigned width, unsigned dpi) {
     const double dotsPerTenth = dpi / 254.0;
     const double dots = std::round(width / dotsPerTenth) * dotsPerTenth;
     const unsigned wholeBytes = (width + 7) / 8 * 8;
-    return std::floor(dots + dotsPerTenth / 2) == width &&
-           wholeBytes - dots > dotsPerTenth / 2 + 0.01;
+    const double most = dots + dotsPerTenth / 2;
+    constexpr double slack = 0.01;
+    return std::floor(most - slack) == width && std::floor(most + slack) == width &&
+           wholeBytes - most > slack;
 }
 
 // The whole bytes of a narrow label's bitmap are much wider than the label and tell a wrong

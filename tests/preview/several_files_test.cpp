@@ -36,11 +36,12 @@ protected:
 TEST_F(SeveralFiles, AreStreamsOfTheirOwn) {
     const FilterResult result = runPreview(folder, {one, two});
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.standardError, "");
+    EXPECT_EQ(result.standardError,
+              two + ": line 4, byte 56: the label is blank\n" + two + ": 2 labels, 1 complaint\n");
     EXPECT_EQ(result.standardOutput,
-              "one-1.png: 16 x 8 dots at 203 dpi, 16.4 % burnt\n"
-              "two-1.png: 16 x 8 dots at 203 dpi, 0.0 % burnt\n"
-              "two-2.png: 16 x 8 dots at 203 dpi, 16.4 % burnt\n");
+              "one-1.png: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt\n"
+              "two-1.png: 16 x 8 dots at 203 dpi (by its bitmaps), 0.0 % burnt\n"
+              "two-2.png: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt\n");
     EXPECT_EQ(folder.names(), (Names{"one-1.png", "two-1.png", "two-2.png"}));
     expectPicture(folder, "one-1.png", true);
     expectPicture(folder, "two-1.png", false);
@@ -52,8 +53,11 @@ TEST_F(SeveralFiles, ShareNothingThatTheyDraw) {
     streams.write("bare.tspl", "PRINT 1\n");
     const FilterResult result = runPreview(folder, {"--check", one, streams.path("bare.tspl")});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.standardOutput,
-              streams.path("bare.tspl") + ": byte 0: the label has no size that can be drawn\n");
+    const std::string bare = streams.path("bare.tspl");
+    EXPECT_EQ(result.standardOutput, one + ": 1 label, no complaints\n" + bare +
+                                         ": line 1, byte 0: the label has no size that can be "
+                                         "drawn\n" +
+                                         bare + ": 1 label, 1 complaint\n");
 }
 
 TEST_F(SeveralFiles, AreNamedBehindThePrefix) {
@@ -73,14 +77,19 @@ TEST_F(SeveralFiles, OfTheSameNameKeepTheirPicturesApart) {
 TEST_F(SeveralFiles, AreReadWhenOneOfThemCannotBe) {
     const FilterResult result = runPreview(folder, {one, "missing", two});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.standardError, "tsplpreview: missing: No such file or directory\n");
+    EXPECT_EQ(result.standardError, "tsplpreview: missing: No such file or directory\n" + two +
+                                        ": line 4, byte 56: the label is blank\n" + two +
+                                        ": 2 labels, 1 complaint\n");
     EXPECT_EQ(folder.names(), (Names{"one-1.png", "two-1.png", "two-2.png"}));
 }
 
 TEST_F(SeveralFiles, MayHaveStandardInputAmongThem) {
     const FilterResult result = runPreview(folder, {one, "-"}, smallLabel(blankBitmap) + "SPIN\n");
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.standardError, "standard input: byte 67: unknown command: SPIN\n");
+    EXPECT_EQ(result.standardError,
+              "standard input: line 4, byte 56: the label is blank\n"
+              "standard input: line 5, byte 67: unknown command: SPIN\n"
+              "standard input: 1 label, 2 complaints\n");
     expectPicture(folder, "one-1.png", true);
     expectPicture(folder, "label-1.png", false);
 }
@@ -94,9 +103,13 @@ TEST_F(SeveralFiles, AreNamedInLists) {
     const std::string command =
         "{\"type\":\"command\",\"offset\":0,\"command\":\"CLS\",\"arguments\":[],\"text\":\"CLS\"}"
         "\n";
-    EXPECT_EQ(runPreview(here, {"--json", "a", "b\x1b"}).standardOutput,
-              "{\"type\":\"stream\",\"name\":\"a\"}\n" + command +
-                  "{\"type\":\"stream\",\"name\":\"b\\\\x1b\"}\n" + command);
+    const std::string summary =
+        "{\"type\":\"summary\",\"labels\":0,\"complaints\":0,\"remarks\":0}\n";
+    const std::string listed = runPreview(here, {"--json", "a", "b\x1b"}).standardOutput;
+    EXPECT_TRUE(listed.starts_with("{\"type\":\"schema\",\"version\":1,")) << listed;
+    EXPECT_EQ(listed.substr(listed.find('\n') + 1),
+              "{\"type\":\"stream\",\"name\":\"a\"}\n" + command + summary +
+                  "{\"type\":\"stream\",\"name\":\"b\\\\x1b\"}\n" + command + summary);
 }
 
 TEST_F(SeveralFiles, AreAllCheckedWhateverTheFirstOneSays) {
@@ -107,7 +120,11 @@ TEST_F(SeveralFiles, AreAllCheckedWhateverTheFirstOneSays) {
     const FilterResult result = runPreview(here, {"--check", "a", "b", "c"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.standardOutput,
-              "a: byte 0: unknown command: SPIN\nc: byte 0: unknown command: SPUN\n");
+              "a: line 1, byte 0: unknown command: SPIN\n"
+              "a: no label: nothing is printed without PRINT; 1 complaint\n"
+              "b: no label: nothing is printed without PRINT\n"
+              "c: line 1, byte 0: unknown command: SPUN\n"
+              "c: no label: nothing is printed without PRINT; 1 complaint\n");
 }
 
 }  // namespace

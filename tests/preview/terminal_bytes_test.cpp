@@ -21,8 +21,10 @@ TEST(TerminalBytes, OfAFilesNameAreShownAsTheirNumbers) {
     folder.write(nastyStem + ".tspl", smallLabel(letterBitmap) + "SPIN\n");
     const FilterResult result = runPreview(folder, {nastyStem + ".tspl"});
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.standardOutput, shownStem + "-1.png: 16 x 8 dots at 203 dpi, 16.4 % burnt\n");
-    EXPECT_EQ(result.standardError, shownStem + ".tspl: byte 67: unknown command: SPIN\n");
+    EXPECT_EQ(result.standardOutput,
+              shownStem + "-1.png: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt\n");
+    EXPECT_EQ(result.standardError, shownStem + ".tspl: line 5, byte 67: unknown command: SPIN\n" +
+                                        shownStem + ".tspl: 1 label, 1 complaint\n");
     EXPECT_EQ(folder.names(), (std::set<std::string>{nastyStem + ".tspl", nastyStem + "-1.png"}));
     EXPECT_EQ(runPreview(folder, {"--check", nastyStem + ".tspl"}).standardOutput,
               result.standardError);

@@ -12,7 +12,7 @@ using Names = std::set<std::string>;
 
 // letterRows, two rows to a line.
 const std::string letterText = " ▄▄▄▄▄▄▄▄\n ██\n ██▀▀▀\n ▀▀\n";
-const std::string letterTitle = "label 1: 16 x 8 dots at 203 dpi, 16.4 % burnt\n";
+const std::string letterTitle = "label 1: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt\n";
 
 // A black label of 800 × 400 dots.
 const std::string blackLabel = "SIZE 800 dot,400 dot\nCLS\nBAR 0,0,800,400\nPRINT 1\n";
@@ -39,9 +39,11 @@ TEST(TerminalOption, ShowsEachLabelBelowItsTitleAndWritesNoFile) {
         runPreview(folder, {"--terminal"}, smallLabel(letterBitmap) + "PRINT 2\n");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.standardError, "");
-    EXPECT_EQ(result.standardOutput,
-              letterTitle + letterText +
-                  "label 2: 16 x 8 dots at 203 dpi, 16.4 % burnt, printed 2 times\n" + letterText);
+    EXPECT_EQ(
+        result.standardOutput,
+        letterTitle + letterText +
+            "label 2: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt, printed 2 times\n" +
+            letterText);
     EXPECT_EQ(folder.names(), Names{});
 }
 
@@ -50,7 +52,8 @@ TEST(TerminalOption, WritesFilesTooWhenAPrefixIsGiven) {
     const FilterResult result =
         runPreview(folder, {"--terminal", "-o", "x"}, smallLabel(letterBitmap));
     EXPECT_EQ(result.standardOutput,
-              letterTitle + letterText + "x-1.png: 16 x 8 dots at 203 dpi, 16.4 % burnt\n");
+              letterTitle + letterText +
+                  "x-1.png: 16 x 8 dots at 203 dpi (by its bitmaps), 16.4 % burnt\n");
     EXPECT_EQ(folder.names(), Names{"x-1.png"});
 }
 

@@ -63,6 +63,7 @@ TEST(JsonListing, SumsUpBitmaps) {
     ASSERT_EQ(objects.size(), 2U);
     EXPECT_EQ(objects[0], (json{{"type", "complaint"},
                                 {"offset", 0},
+                                {"line", 1},
                                 {"text", "BITMAP is cut short: 2 of 6 bytes are there"}}));
     EXPECT_EQ(objects[1]["command"], "BITMAP");
     EXPECT_EQ(objects[1]["arguments"], (json{"0", "0", "2", "3", "0"}));
@@ -78,11 +79,14 @@ TEST(JsonListing, SumsUpBitmaps) {
 TEST(JsonListing, TellsFindingsBeforeTheirCommands) {
     const auto objects = objectsOf("WHAT\nTLC39 1,20,3,4,5\n");
     ASSERT_EQ(objects.size(), 4U);
-    EXPECT_EQ(objects[0],
-              (json{{"type", "complaint"}, {"offset", 0}, {"text", "unknown command: WHAT"}}));
+    EXPECT_EQ(
+        objects[0],
+        (json{
+            {"type", "complaint"}, {"offset", 0}, {"line", 1}, {"text", "unknown command: WHAT"}}));
     EXPECT_EQ(objects[1]["remark"], "unknown");
-    EXPECT_EQ(objects[2],
-              (json{{"type", "remark"}, {"offset", 5}, {"text", "TLC39 is not drawn"}}));
+    EXPECT_EQ(
+        objects[2],
+        (json{{"type", "remark"}, {"offset", 5}, {"line", 2}, {"text", "TLC39 is not drawn"}}));
     EXPECT_EQ(objects[3]["remark"], "not drawn");
 }
 
@@ -94,10 +98,63 @@ TEST(JsonListing, TellsLabels) {
                                 {"width", 9},
                                 {"height", 4},
                                 {"dpi", 203},
+                                {"dpiFrom", "default"},
+                                {"direction", 0},
+                                {"mirrored", false},
                                 {"sets", 2},
                                 {"copies", 3},
                                 {"burntDots", 4}}));
     EXPECT_EQ(objects[3]["command"], "PRINT");
+}
+
+TEST(JsonListing, TellsTheDirectionOfALabel) {
+    const auto turned = objectsOf("SIZE 9 dot,4 dot\nDIRECTION 1\nBAR 0,0,2,2\nPRINT 1\n").at(3);
+    EXPECT_EQ(turned["direction"], 1);
+    EXPECT_EQ(turned["mirrored"], false);
+    const auto mirrored =
+        objectsOf("SIZE 9 dot,4 dot\nDIRECTION 0,1\nBAR 0,0,2,2\nPRINT 1\n").at(3);
+    EXPECT_EQ(mirrored["direction"], 0);
+    EXPECT_EQ(mirrored["mirrored"], true);
+}
+
+// 2 mm are 16 dots of 203 to the inch and 24 of 300.
+TEST(JsonListing, TellsHowTheResolutionIsKnown) {
+    const std::string bitmap = "BITMAP 0,0,3,1,0,abc\n";
+    const auto objects =
+        objectsOf("SIZE 2 mm,1 mm\n" + bitmap + "PRINT 1\nCLS\nBAR 0,0,2,2\nPRINT 1\n");
+    EXPECT_EQ(objects.at(2)["dpiFrom"], "bitmaps");
+    EXPECT_EQ(objects.at(2)["dpi"], 300);
+    EXPECT_EQ(objects.at(6)["dpiFrom"], "label before");
+    EXPECT_EQ(objects.at(6)["dpi"], 300);
+}
+
+TEST(JsonListing, CallsTheResolutionOfAnOptionByThatName) {
+    std::ostringstream out;
+    JsonListing listing(out);
+    tspl::PrinterOptions options;
+    options.dpi = 300;
+    tspl::PrinterModel model(listing, options);
+    tspl::StreamParser parser(model);
+    parser.feed(tspl::bytesOf("SIZE 2 mm,1 mm\nBAR 0,0,2,2\nPRINT 1\n"));
+    EXPECT_NE(out.str().find("\"dpi\":300,\"dpiFrom\":\"option\""), std::string::npos) << out.str();
+}
+
+TEST(JsonListing, SumsUpAStream) {
+    std::ostringstream out;
+    JsonListing listing(out);
+    StreamTally tally;
+    tspl::obeyStream("TLC39 1,20,3,4,5\nSPIN\nSPIN\nPRINT 1\n", tally);
+    listing.onEnd(tally);
+    EXPECT_EQ(out.str(), "{\"type\":\"summary\",\"labels\":1,\"complaints\":3,\"remarks\":1}\n");
+}
+
+TEST(JsonListing, NamesTheRulesOfItsObjects) {
+    std::ostringstream out;
+    JsonListing::writeSchema(out);
+    const json schema = json::parse(out.str());
+    EXPECT_EQ(schema["type"], "schema");
+    EXPECT_EQ(schema["version"], 1);
+    EXPECT_EQ(schema["program"].get<std::string>().substr(0, 12), "tsplpreview ");
 }
 
 TEST(JsonListing, HoldsTheLargestNumbers) {

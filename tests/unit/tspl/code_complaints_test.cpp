@@ -165,6 +165,10 @@ TEST(CodeRemark, IsMadeOfContentThatOnlyThePrinterKnows) {
               Texts{"remark 0 BARCODE is not drawn: the value of A$ is not known"});
     EXPECT_EQ(findingsOf("DMATRIX 1,2,9,9,x2,\"A\"+@1"),
               Texts{"remark 0 DMATRIX is not drawn: the value of @1 is not known"});
+    EXPECT_EQ(findingsOf("DMATRIX 1,2,9,9,x2,\"A\" + A$"),
+              Texts{"remark 0 DMATRIX is not drawn: the value of A$ is not known"});
+    EXPECT_EQ(findingsOf("QRCODE 1,2,L,4,A,0,(A$)"),
+              Texts{"remark 0 QRCODE is not drawn: the value of (A$) is not known"});
 }
 
 TEST(CodeRemark, IsMadeOfTheTextLineOfABarcode) {

@@ -39,7 +39,7 @@ constexpr Expected sCommands[] = {
     {"SPEED", 1, 1, sAny, Effect::Obeyed},
     {"DENSITY", 1, 1, sInteger, Effect::Obeyed},
     {"SET", 1, anyNumber, sAny, Effect::Obeyed},
-    {"COUNTRY", 1, 1, sAny, Effect::NoMark},
+    {"COUNTRY", 1, 1, sInteger, Effect::NoMark},
     {"CODEPAGE", 1, 1, sAny, Effect::Obeyed},
     {"CLS", 0, 0, sAny, Effect::Obeyed},
     {"BAR", 4, 4, sInteger, Effect::Obeyed},

@@ -94,6 +94,31 @@ TEST(CompressedBitmap, OfDamagedDataDrawsWhatComesBeforeTheDamage) {
     EXPECT_EQ(sink.labels.at(0).rows.at(0), "####...........#");
 }
 
+TEST(CompressedBitmap, OfAnotherChecksumIsComplainedOfWhereverItIsCut) {
+    std::string data = compressed("\xF0\x01"s);
+    data.back() ^= 1;
+    const std::string stream = labelOf(bitmapOf("0,0,2,1", data));
+    const Texts expected = {
+        "complaint 22 the data of BITMAP in mode 3 are no zlib data, or damaged"};
+    for (std::size_t size = 1; size <= stream.size(); ++size) {
+        RecordingSink sink;
+        PrinterModel model(sink, {});
+        StreamParser parser(model);
+        for (std::size_t at = 0; at < stream.size(); at += size) {
+            parser.feed(bytesOf(std::string_view(stream).substr(at, size)));
+        }
+        parser.finish();
+        EXPECT_EQ(sink.findings, expected) << size;
+    }
+}
+
+// The checksum of what is left out is not looked at: it may take long to come to it.
+TEST(CompressedBitmap, OfMoreThanThePictureAndAnotherChecksumIsNotComplainedOf) {
+    std::string data = compressed("\xF0\x01\x02"s);
+    data.back() ^= 1;
+    EXPECT_EQ(findingsOf(labelOf(bitmapOf("0,0,2,1", data))), Texts{});
+}
+
 TEST(CompressedBitmap, ThatIsCutShortIsComplainedOf) {
     EXPECT_EQ(findingsOf("BITMAP 0,0,2,3,3,100,abc"),
               Texts{"complaint 0 BITMAP is cut short: 3 of 100 bytes are there"});

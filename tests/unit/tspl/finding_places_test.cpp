@@ -33,8 +33,9 @@ TEST(FindingLine, CountsNoLinesInTheDataOfABitmap) {
 }
 
 TEST(FindingLine, IsThatOfABitmapThatOverhangsAndNotOfPrint) {
-    EXPECT_EQ(linesOf("SIZE 8 dot,8 dot\nBITMAP 0,0,2,1,0,\xFF\xFF\nCLS\nPRINT 1\n"), Lines{});
-    EXPECT_EQ(linesOf("SIZE 8 dot,8 dot\nCLS\nBITMAP 0,0,2,1,0,\xFF\xFF\n\nPRINT 1\n"), Lines{3});
+    EXPECT_EQ(linesOf("SIZE 8 dot,8 dot\nBITMAP 0,0,2,1,0,\xFF\xFF\nCLS\nBAR 0,0,1,1\nPRINT 1\n"),
+              Lines{});
+    EXPECT_EQ(linesOf("SIZE 8 dot,8 dot\nCLS\nBITMAP 0,0,2,1,0,\x01\xFF\n\nPRINT 1\n"), Lines{3});
 }
 
 TEST(FindingLine, CountsBehindALongLine) {

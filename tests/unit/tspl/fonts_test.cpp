@@ -46,6 +46,15 @@ TEST(StandInOf, IsScalableForFilesOfOutlines) {
     EXPECT_FALSE(standInOf("ARIAL.FNT").isScalable());
 }
 
+TEST(IsFontFile, HoldsOfNamesWithAnEnding) {
+    for (const char* name : {"ARIAL.TTF", "a.b", "A.B.C"}) {
+        EXPECT_TRUE(isFontFile(name)) << name;
+    }
+    for (const char* name : {"", "9", ".TTF", "ARIAL.", "ARIAL"}) {
+        EXPECT_FALSE(isFontFile(name)) << name;
+    }
+}
+
 TEST(IsWide, HoldsOfCharactersOfEastAsiaOnly) {
     for (const char32_t character : std::u32string(U"你あ가Ａ\u3000")) {
         EXPECT_TRUE(isWide(character)) << static_cast<unsigned>(character);

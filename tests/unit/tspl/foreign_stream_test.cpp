@@ -13,6 +13,20 @@ TEST(ForeignStream, IsNamedByItsFirstLine) {
         {"^XA^FO50,50^FDx^FS^XZ", "ZPL"},
         {"CT~~CD,~CC^~CT~", "ZPL"},
         {"N", "EPL"},
+        {"I8,A,001", "EPL"},
+        {"q831", "EPL"},
+        {"Q400,024", "EPL"},
+        {"rN", "EPL"},
+        {"ZT ", "EPL"},
+        {"S4", "EPL"},
+        {"D7", "EPL"},
+        {"~SD15", "ZPL"},
+        {"^FX of a program", "ZPL"},
+        {"\x10"
+         "CT~~CD,~CC^~CT~",
+         "ZPL"},
+        {"C\0L\0S\0"s, "UTF-16"},
+        {"\0S\0I\0Z\0E"s, "UTF-16"},
         {"%PDF-1.4", "PDF"},
         {"%!PS-Adobe-3.0", "PostScript"},
         {"\xFF\xFES\0I\0"s, "UTF-16"},
@@ -29,8 +43,9 @@ TEST(ForeignStream, IsNamedByItsFirstLine) {
 }
 
 TEST(ForeignStream, IsNoneThatBeginsWithACommandOrAnythingElse) {
-    for (const char* line : {"SIZE 4,6", "CLS", "", "NEXT", "!", "<xpml></xpml>", "\x1b!R", "~!T",
-                             "REM ^XA", "@1=\"1\""}) {
+    for (const char* line :
+         {"SIZE 4,6", "CLS", "", "NEXT", "!", "<xpml></xpml>", "\x1b!R", "~!T", "REM ^XA",
+          "@1=\"1\"", "Q", "D", "S=4", "D7=1", "I8", "R1X", "NO", "ON"}) {
         EXPECT_EQ(foreignFormat(line), "") << line;
     }
 }
@@ -39,6 +54,11 @@ TEST(ForeignStream, IsComplainedOfOnce) {
     EXPECT_EQ(findingsOf("\n^XA\n^FO50,50\n^FDtext^FS\nPRINT 1\n^XZ\n"),
               Texts{"complaint 1 this is no TSPL: it looks like ZPL"});
     EXPECT_EQ(findingsOf("%PDF-1.4\n" + std::string(200'000, 'x') + "\nendobj\n").size(), 1U);
+}
+
+TEST(ForeignStream, OfEplIsKnownByItsSettings) {
+    EXPECT_EQ(findingsOf("I8,A,001\nQ400,024\nq831\nN\nA10,10,0,1,1,1,N,\"x\"\nP1\n"),
+              Texts{"complaint 0 this is no TSPL: it looks like EPL"});
 }
 
 TEST(ForeignStream, PrintsNothingAndListsNothing) {

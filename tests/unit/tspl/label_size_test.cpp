@@ -80,6 +80,10 @@ TEST(WholeDots, EndsAtAPictureOf8DotsToEachOfAWholeNumberOfMillimetresAt203Dpi) 
     EXPECT_EQ(wholeDots(millimetres(100, 0), 203, 800), 800);
     EXPECT_EQ(wholeDots(millimetres(150, 0), 203, 1200), 1200);
     EXPECT_EQ(wholeDots(millimetres(150, 0), 203, 1201), 1199);
+    // Written as 100.0 mm.
+    EXPECT_EQ(wholeDots(millimetres(100, 0.05), 203, 800), 800);
+    EXPECT_EQ(wholeDots(millimetres(100, 0.05), 203, 0), 800);
+    EXPECT_EQ(wholeDots(millimetres(100, 0.05), 203, 799), 799);
     EXPECT_EQ(wholeDots(millimetres(100, 0), 300, 800), 1181);
     EXPECT_EQ(wholeDots(inches(100), 203, 800), 20300);
     EXPECT_EQ(wholeDots(millimetres(101.1, 0.05), 203, 809), 808);
@@ -93,7 +97,9 @@ TEST(WholeDots, Are8ToEachOfAWholeNumberOfMillimetresAt203DpiWhereNoPictureTells
     EXPECT_EQ(wholeDots(millimetres(100, 0), 203, 806), 799);
     EXPECT_EQ(wholeDots(millimetres(100, 0), 203, 807), 800);
     EXPECT_EQ(wholeDots(millimetres(100, 0), 300, 0), 1181);
-    EXPECT_EQ(wholeDots(millimetres(100.0, 0.05), 203, 0), 799);
+    EXPECT_EQ(wholeDots(millimetres(97.5, 0.05), 203, 0), 780);
+    EXPECT_EQ(wholeDots(millimetres(97.5, 0.05), 203, 784), 779);
+    EXPECT_EQ(wholeDots(millimetres(99.9, 0.05), 203, 0), 798);
 }
 
 TEST(WholeDots, OfTenthsOfAnInchAreExact) {

@@ -212,6 +212,31 @@ TEST(Label, OfTheSameSizeKeepsWhatIsDrawn) {
     EXPECT_EQ(label.canvas().burntDots(), 3U);
 }
 
+TEST(Label, OfTheSameSizeInOtherWordsKeepsWhatIsDrawn) {
+    Label label(300, plenty);
+    const std::pair<const char*, const char*> spellings[] = {
+        {"12 mm", "12.0 mm"}, {"8.9 mm", "8.90 mm"}, {"25.4 mm", "1"}, {"2 inch", "50.8 mm"}};
+    for (const auto& [first, second] : spellings) {
+        ASSERT_TRUE(label.setSize(sizeOf(first, first)));
+        label.clear();
+        label.canvas().fill({0, 0, 3, 1});
+        ASSERT_TRUE(label.setSize(sizeOf(second, second)));
+        EXPECT_EQ(label.canvas().burntDots(), 3U) << second;
+    }
+}
+
+TEST(Label, OfASizeThatDiffersByLittleIsBare) {
+    Label label(300, plenty);
+    const std::pair<const char*, const char*> sizes[] = {
+        {"12 mm", "12.01 mm"}, {"1", "25.41 mm"}, {"20 dot", "20 mm"}, {"20 dot", "20"}};
+    for (const auto& [first, second] : sizes) {
+        ASSERT_TRUE(label.setSize(sizeOf(first, first)));
+        label.canvas().fill({0, 0, 3, 1});
+        ASSERT_TRUE(label.setSize(sizeOf(second, second)));
+        EXPECT_EQ(label.canvas().burntDots(), 0U) << second;
+    }
+}
+
 TEST(Label, IsBareAndForgetsItsBitmapsWhenCleared) {
     Label label(203, plenty);
     ASSERT_TRUE(label.setSize(sizeOf("20 dot", "10 dot")));

@@ -45,11 +45,24 @@ PageHeader headerOf(const GreyImage& image, std::uint32_t dpi) {
     return header;
 }
 
+// Nothing of it burns.
+bool isBlank(const GreyImage& image) {
+    const Texts rows = rowsOf(image);
+    return std::all_of(rows.begin(), rows.end(),
+                       [](const std::string& row) { return row.find('#') == std::string::npos; });
+}
+
 void expectPrinted(const GreyImage& image, std::uint32_t dpi, const Settings& settings = {}) {
     RecordingSink sink;
     obeyStream(reference::preamble() + reference::tsplPage(settings, headerOf(image, dpi), image),
                sink);
-    EXPECT_EQ(sink.findings, Texts{}) << image.width << " at " << dpi;
+    // PRINT, the last command, is what is complained of.
+    Texts expected;
+    if (isBlank(image)) {
+        const std::uint64_t print = sink.entries.back().offset;
+        expected = {"complaint " + std::to_string(print) + " the label is blank"};
+    }
+    EXPECT_EQ(sink.findings, expected) << image.width << " at " << dpi;
     ASSERT_EQ(sink.labels.size(), 1U);
     EXPECT_EQ(sink.labels.front().dpi, static_cast<int>(dpi)) << image.width;
     EXPECT_EQ(sink.labels.front().rows, rowsOf(image)) << image.width << " at " << dpi;

@@ -76,7 +76,7 @@ TEST(Print, TakesTheResolutionFromTheWidthOfTheBitmap) {
     for (const int dpi : {203, 300, 600}) {
         const std::string bytes((static_cast<std::size_t>(dpi) + 7) / 8, '\xFF');
         const std::string stream = "SIZE 1,0.1\nBITMAP 0,0," + std::to_string(bytes.size()) +
-                                   ",1,0," + bytes + "\nPRINT 1";
+                                   ",1,0," + bytes + "\nBAR 0,0,1,1\nPRINT 1";
         const SeenLabel label = labelOf(stream);
         EXPECT_EQ(label.dpi, dpi);
         EXPECT_EQ(label.width, dpi);
@@ -136,10 +136,12 @@ TEST(Print, PrintsAgainAfterALabelThatIsTooLarge) {
 
 TEST(Print, TellsOfALabelThatCannotBeDrawn) {
     RecordingSink sink;
-    obeyStream("PRINT 1\nSIZE 3 dot,1 dot\nPRINT 0\nPRINT 1\nSIZE 90000,90000\nPRINT 1\n", sink);
-    EXPECT_EQ(sink.order,
-              (Texts{"finding 0", "lost", "entry 0", "entry 8", "finding 25", "entry 25", "label 2",
-                     "entry 33", "finding 41", "entry 41", "finding 58", "lost", "entry 58"}));
+    obeyStream(
+        "PRINT 1\nSIZE 3 dot,1 dot\nPRINT 0\nBAR 0,0,1,1\nPRINT 1\nSIZE 90000,90000\nPRINT 1\n",
+        sink);
+    EXPECT_EQ(sink.order, (Texts{"finding 0", "lost", "entry 0", "entry 8", "finding 25",
+                                 "entry 25", "entry 33", "label 2", "entry 45", "finding 53",
+                                 "entry 53", "finding 70", "lost", "entry 70"}));
 }
 
 TEST(Cls, MakesTheLabelBare) {

@@ -83,7 +83,7 @@ TEST(Shift, AwayFromTheLabelPrintsABareOne) {
 
 TEST(Shift, ThatCutsDotsOffIsComplainedOf) {
     EXPECT_EQ(findingsOf("SIZE 4 dot,3 dot\nSHIFT 0,2\nBAR 0,0,1,2\nPRINT 1"),
-              Texts{"complaint 39 1 dots lie outside the label and are cut off"});
+              Texts{"complaint 39 1 dot lies outside the label and is cut off"});
     EXPECT_EQ(findingsOf("SIZE 4 dot,3 dot\nSHIFT 0,1\nBAR 0,0,1,2\nPRINT 1"), Texts{});
 }
 

@@ -61,6 +61,24 @@ TEST(Aztec, HasTheShareOfCorrectionThatItNames) {
     EXPECT_EQ(drawn(40, "AZTEC 0,0,0,1,0" + content), drawn(40, "AZTEC 0,0,0,1,23" + content));
 }
 
+TEST(Aztec, OfAnotherShareOfCorrectionIsRemarkedOn) {
+    const auto remark = [](const std::string& drawn, const std::string& asked) {
+        return Texts{"remark 0 AZTEC is drawn with a correction of " + drawn + " percent, not " +
+                     asked};
+    };
+    const auto findings = [](const std::string& correction) {
+        return findingsOf("AZTEC 0,0,0,1," + correction + ",\"a\"");
+    };
+    EXPECT_EQ(findings("1"), remark("10", "1"));
+    EXPECT_EQ(findings("11"), remark("23", "11"));
+    EXPECT_EQ(findings("24"), remark("36", "24"));
+    EXPECT_EQ(findings("37"), remark("50", "37"));
+    EXPECT_EQ(findings("99"), remark("50", "99"));
+    for (const std::string same : {"0", "10", "23", "36", "50", "101", "232"}) {
+        EXPECT_EQ(findings(same), Texts{}) << same;
+    }
+}
+
 TEST(Aztec, OfWhatThereIsNotIsComplainedOf) {
     EXPECT_EQ(findingsOf("AZTEC 0,0,0,21,\"a\""),
               complaint("AZTEC: the size is 1 to 20, not \"21\""));

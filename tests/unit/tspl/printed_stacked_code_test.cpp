@@ -58,7 +58,12 @@ TEST(Pdf417, StandsInTheMiddleOfItsAreaWhenItIsToldTo) {
 }
 
 TEST(Pdf417, PassesOverTheOptionsThatChangeNoModule) {
-    EXPECT_EQ(findingsOf("PDF417 0,0,9,9,0,P1,U10,20,30,L5,R90,W1,H1,C2,\"a\""), Texts{});
+    EXPECT_EQ(findingsOf("PDF417 0,0,9,9,0,P1,L5,R90,W1,H1,C2,\"a\""), Texts{});
+}
+
+TEST(Pdf417, OfATextBesideItIsDrawnWithoutIt) {
+    EXPECT_EQ(findingsOf("PDF417 0,0,9,9,0,U10,20,30,W1,H1,C2,\"a\""),
+              Texts{"remark 0 the text beside PDF417 is not drawn"});
 }
 
 TEST(Pdf417, OfAnOptionThatIsNoneIsComplainedOf) {

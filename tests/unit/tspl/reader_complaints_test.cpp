@@ -69,6 +69,41 @@ TEST(Complaint, IsMadeOfADensityBeyond0To30) {
     EXPECT_EQ(findingsIn("DENSITY 30"), Texts{});
 }
 
+TEST(Complaint, IsMadeOfASoundThatNoPrinterMakes) {
+    EXPECT_EQ(findingsIn("SOUND 99,99999"),
+              (Texts{"complaint 100 SOUND: the level is 0 to 9, not 99",
+                     "complaint 100 SOUND: the interval is 1 to 4095, not 99999"}));
+    EXPECT_EQ(findingsIn("SOUND -1,1"), complaint("SOUND: the level is 0 to 9, not -1"));
+    EXPECT_EQ(findingsIn("SOUND 10,1"), complaint("SOUND: the level is 0 to 9, not 10"));
+    EXPECT_EQ(findingsIn("SOUND 0,0"), complaint("SOUND: the interval is 1 to 4095, not 0"));
+    EXPECT_EQ(findingsIn("SOUND 9,4096"), complaint("SOUND: the interval is 1 to 4095, not 4096"));
+    EXPECT_EQ(findingsIn("SOUND 0,1"), Texts{});
+    EXPECT_EQ(findingsIn("SOUND 9,4095"), Texts{});
+}
+
+TEST(Complaint, IsMadeOfADistanceThatNoPrinterMovesThePaper) {
+    for (const std::string name : {"FEED", "BACKFEED", "BACKUP"}) {
+        const std::string text = name + ": the distance is 0 to 9999, not ";
+        EXPECT_EQ(findingsIn(name + " -1"), complaint(text + "-1"));
+        EXPECT_EQ(findingsIn(name + " 10000"), complaint(text + "10000"));
+        EXPECT_EQ(findingsIn(name + " 0"), Texts{});
+        EXPECT_EQ(findingsIn(name + " 9999"), Texts{});
+    }
+}
+
+TEST(Complaint, IsMadeOfATimeBelowZero) {
+    EXPECT_EQ(findingsIn("DELAY -1"), complaint("DELAY: the time is 0 to 2147483647, not -1"));
+    EXPECT_EQ(findingsIn("DELAY 0"), Texts{});
+}
+
+TEST(Complaint, IsMadeOfACountryThatHasNoSuchNumber) {
+    EXPECT_EQ(findingsIn("COUNTRY 0"), complaint("COUNTRY: the number is 1 to 999, not 0"));
+    EXPECT_EQ(findingsIn("COUNTRY 1000"), complaint("COUNTRY: the number is 1 to 999, not 1000"));
+    EXPECT_EQ(findingsIn("COUNTRY USA"), complaint("COUNTRY does not take \"USA\""));
+    EXPECT_EQ(findingsIn("COUNTRY 001"), Texts{});
+    EXPECT_EQ(findingsIn("COUNTRY 999"), Texts{});
+}
+
 TEST(Complaint, IsMadeOfASetThatNoPrinterTakes) {
     EXPECT_EQ(findingsIn("SET TEER ON"), complaint("SET does not take TEER"));
     EXPECT_EQ(findingsIn("SET TEAR"), complaint("SET TEAR without a value"));
@@ -111,31 +146,35 @@ TEST(Complaint, IsMadeOfARefusedLabelAtItsSizeAndAtItsPrint) {
 
 TEST(Complaint, IsMadeWhenMoreThanOneOfTearPeelAndCutterIsOn) {
     const std::string text = "more than one of SET TEAR, SET PEEL and SET CUTTER is on";
-    EXPECT_EQ(findingsOf("SIZE 1,1\nSET TEAR ON\nSET PEEL ON\nPRINT 1\n"),
-              Texts{"complaint 33 " + text});
-    EXPECT_EQ(findingsOf("SIZE 1,1\nSET TEAR ON\nSET PEEL ON\nSET TEAR OFF\nPRINT 1\n"), Texts{});
+    EXPECT_EQ(findingsOf("SIZE 1,1\nBAR 0,0,9,9\nSET TEAR ON\nSET PEEL ON\nPRINT 1\n"),
+              Texts{"complaint 45 " + text});
+    EXPECT_EQ(
+        findingsOf("SIZE 1,1\nBAR 0,0,9,9\nSET TEAR ON\nSET PEEL ON\nSET TEAR OFF\nPRINT 1\n"),
+        Texts{});
     EXPECT_EQ(findingsOf("SIZE 1,1\nSET TEAR ON\nSET PEEL ON\n"), Texts{});
 }
 
 TEST(Complaint, IsMadeOfABitmapThatIsWiderThanTheLabel) {
-    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBITMAP 1,0,1,1,0,\xFF\nPRINT 1\n"),
+    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBITMAP 1,0,1,1,0,\x7F\nPRINT 1\n"),
               Texts{"complaint 17 BITMAP reaches to dot 9, the label is 8 dots wide"});
 }
 
 TEST(Complaint, IsMadeOfABitmapThatIsHigherThanTheLabel) {
-    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBITMAP 0,0,1,3,0,\xFF\xFF\xFF\nPRINT 1\n"),
+    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBITMAP 0,0,1,3,0,\x7F\xFF\xFF\nPRINT 1\n"),
               Texts{"complaint 17 BITMAP reaches to row 3, the label is 2 rows high"});
 }
 
 TEST(Complaint, IsMadeOfABitmapThatTheReferenceMovesOverTheEdges) {
-    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nREFERENCE 1,2\nBITMAP 0,0,1,1,0,\xFF\nPRINT 1\n"),
-              (Texts{"complaint 31 BITMAP reaches to dot 9, the label is 8 dots wide",
-                     "complaint 31 BITMAP reaches to row 3, the label is 2 rows high"}));
+    EXPECT_EQ(
+        findingsOf(
+            "SIZE 8 dot,2 dot\nREFERENCE 1,2\nBITMAP 0,0,1,1,0,\xFF\nBAR 0,-1,1,1\nPRINT 1\n"),
+        (Texts{"complaint 31 BITMAP reaches to dot 9, the label is 8 dots wide",
+               "complaint 31 BITMAP reaches to row 3, the label is 2 rows high"}));
 }
 
 TEST(Complaint, IsMadeOfTheBitmapsThatReachFarthest) {
     EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBITMAP 0,0,2,1,0,\xFF\xFF\nBITMAP 0,0,3,1,0,"
-                         "\xFF\xFF\xFF\nBITMAP 0,0,1,4,0,\xFF\xFF\xFF\xFF\nPRINT 1\n"),
+                         "\xFF\xFF\xFF\nBITMAP 0,0,1,4,0,\x7F\xFF\xFF\xFF\nPRINT 1\n"),
               (Texts{"complaint 37 BITMAP reaches to dot 24, the label is 8 dots wide",
                      "complaint 58 BITMAP reaches to row 4, the label is 2 rows high"}));
 }
@@ -145,15 +184,16 @@ TEST(Complaint, IsMadeOfDotsOutsideTheLabel) {
     EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBAR 7,0,3,2\nPRINT 1\n"),
               Texts{"complaint 17 4" + text});
     EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBITMAP 0,-1,1,1,0,\xFE\nPRINT 1\n"),
-              Texts{"complaint 17 1" + text});
+              Texts{"complaint 17 1 dot lies outside the label and is cut off"});
     EXPECT_EQ(findingsOf("SIZE 0.1,0.1\nBAR 20,0,1,1\nBAR 90,0,1,1\nPRINT 1\n"),
               Texts{"complaint 13 2" + text});
 }
 
 TEST(Complaint, OfDotsOutsideIsMadeForEachPrint) {
-    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBAR 7,0,3,2\nPRINT 1\nPRINT 1\nCLS\nPRINT 1\n"),
-              (Texts{"complaint 17 4 dots lie outside the label and are cut off",
-                     "complaint 17 4 dots lie outside the label and are cut off"}));
+    EXPECT_EQ(
+        findingsOf("SIZE 8 dot,2 dot\nBAR 7,0,3,2\nPRINT 1\nPRINT 1\nCLS\nBAR 0,0,1,1\nPRINT 1\n"),
+        (Texts{"complaint 17 4 dots lie outside the label and are cut off",
+               "complaint 17 4 dots lie outside the label and are cut off"}));
 }
 
 // 5 * 2^62 dots outside are more than the largest number; one dot lies on the label.
@@ -164,8 +204,8 @@ TEST(Complaint, OfDotsOutsideIsMadeAtTheFirstCommandThatReachesOverAnEdge) {
             findingsOf(start + bar + "\nBAR 3,3,1,1\nBAR 0,0,20,20\nCLS\n" + bar + "\nPRINT 1\n");
         ASSERT_EQ(findings.size(), 1U);
         const std::size_t behindCls = 29 + std::string(bar).size() + 1 + 12 + 14 + 4;
-        EXPECT_EQ(findings[0], "complaint " + std::to_string(behindCls) + " 1" +
-                                   " dots lie outside the label and are cut off");
+        EXPECT_EQ(findings[0], "complaint " + std::to_string(behindCls) +
+                                   " 1 dot lies outside the label and is cut off");
         EXPECT_TRUE(findingsOf(start + bar + "\nBAR 0,0,20,20\nPRINT 1\n")
                         .at(0)
                         .starts_with("complaint 29 "));
@@ -174,7 +214,7 @@ TEST(Complaint, OfDotsOutsideIsMadeAtTheFirstCommandThatReachesOverAnEdge) {
 
 TEST(Complaint, OfDotsThatShiftMovesOverAnEdgeIsMadeAtPrint) {
     EXPECT_EQ(findingsOf("SIZE 8 dot,8 dot\nBAR 7,0,1,1\nSHIFT 1,0\nPRINT 1\n"),
-              Texts{"complaint 39 1 dots lie outside the label and are cut off"});
+              Texts{"complaint 39 1 dot lies outside the label and is cut off"});
 }
 
 TEST(Complaint, IsMadeOfAnyNumberOfDotsOutside) {
@@ -218,11 +258,53 @@ TEST(Complaint, IsMadeOfALineThatIsTooLong) {
 
 TEST(Complaint, IsNotMadeOfWhatIsDrawnButNotPrinted) {
     EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBAR 7,0,30,20\nBITMAP 0,0,9,1,0,123456789\n"), Texts{});
-    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBAR 7,0,30,20\nCLS\nPRINT 1\n"), Texts{});
+    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBAR 7,0,30,20\nCLS\nBAR 0,0,1,1\nPRINT 1\n"), Texts{});
+}
+
+TEST(Complaint, IsMadeOfABlankLabel) {
+    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nCLS\nPRINT 1\n"),
+              Texts{"complaint 21 the label is blank"});
+    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBAR 0,0,1,1\nCLS\nPRINT 2\nBAR 0,0,1,1\nPRINT 1\n"),
+              Texts{"complaint 33 the label is blank"});
+    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBITMAP 0,0,1,2,0,\xFF\xFF\nPRINT 1\n"),
+              Texts{"complaint 37 the label is blank"});
+}
+
+TEST(Complaint, OfABlankLabelIsNotMadeWhereWhatIsThereIsNotDrawn) {
+    const std::string start = "SIZE 8 dot,2 dot\n";
+    for (const std::string command :
+         {"TLC39 1,20,3,4,5", "BARCODE 1,1,\"128\",9,0,0,1,2,A$", "TEXT 1,1,\"1\",0,1,1,A$",
+          "PUTBMP 1,1,\"LOGO.BMP\"", "PUTPCX 1,1,\"LOGO.PCX\"", "A=1"}) {
+        for (const std::string& finding : findingsOf(start + command + "\nPRINT 1\n")) {
+            EXPECT_TRUE(finding.starts_with("remark ")) << finding;
+        }
+        EXPECT_EQ(findingsOf(start + command + "\nCLS\nPRINT 1\n").back(),
+                  "complaint " + std::to_string(17 + command.size() + 5) + " the label is blank");
+    }
+}
+
+TEST(Complaint, OfABlankLabelIsNotMadeWhereACodeOrATextIsRefused) {
+    for (const std::string command : {"QRCODE 1,1,Z,3,A,0,\"x\"", "TEXT 1,1,\"1\",45,1,1,\"x\"",
+                                      "BARCODE 1,1,\"NONE\",9,0,0,1,2,\"1\""}) {
+        EXPECT_EQ(findingsOf("SIZE 99 dot,99 dot\n" + command + "\nPRINT 1\n").size(), 1U)
+            << command;
+    }
+}
+
+TEST(Complaint, OfABlankLabelIsNotMadeWhereABlockIsRefused) {
+    EXPECT_EQ(findingsOf("SIZE 99 dot,99 dot\nBLOCK 1,1,9,0,\"1\",0,1,1,\"x\"\nPRINT 1\n"),
+              (Texts{"remark 19 BLOCK is drawn in a font that is only alike",
+                     "complaint 19 BLOCK without an extent: BLOCK 1,1,9,0,\"1\",0,1,1,\"x\""}));
+}
+
+TEST(Complaint, OfABlankLabelIsNotMadeBesideThatOfDotsOutside) {
+    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBAR 8,0,1,1\nPRINT 1\n"),
+              Texts{"complaint 17 1 dot lies outside the label and is cut off"});
 }
 
 TEST(Complaint, IsNotMadeOfABitmapOfNoDots) {
-    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBITMAP 90,0,0,1,0,\nBITMAP 0,90,1,0,0,\nPRINT 1\n"),
+    EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBITMAP 90,0,0,1,0,\nBITMAP 0,90,1,0,0,\n"
+                         "BAR 0,0,1,1\nPRINT 1\n"),
               Texts{});
 }
 

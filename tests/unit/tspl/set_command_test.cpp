@@ -115,9 +115,14 @@ TEST(ObeySet, RefusesASwitchThatIsNeitherOnNorOff) {
 }
 
 TEST(ObeySet, RefusesACutterThatCutsNeitherLabelsNorJobs) {
-    EXPECT_EQ(faultOf("SET CUTTER WHEN"), "SET CUTTER takes ON, OFF, BATCH or a number, not WHEN");
+    EXPECT_EQ(faultOf("SET CUTTER WHEN"),
+              "SET CUTTER takes ON, OFF, BATCH or 0 to 65535, not WHEN");
     EXPECT_EQ(faultOf("SET PARTIAL_CUTTER 1.5"),
-              "SET PARTIAL_CUTTER takes ON, OFF, BATCH or a number, not 1.5");
+              "SET PARTIAL_CUTTER takes ON, OFF, BATCH or 0 to 65535, not 1.5");
+    EXPECT_EQ(faultOf("SET CUTTER -1"), "SET CUTTER takes ON, OFF, BATCH or 0 to 65535, not -1");
+    EXPECT_EQ(faultOf("SET CUTTER 65536"),
+              "SET CUTTER takes ON, OFF, BATCH or 0 to 65535, not 65536");
+    EXPECT_EQ(faultOf("SET CUTTER 65535"), "");
 }
 
 TEST(ObeySet, ChangesNothingWhenItRefuses) {

@@ -40,6 +40,14 @@ TEST(StoredPicture, HasANameThatMindsNoCaseAndNoLetterOfAMemory) {
     EXPECT_EQ(drawn(stored + "\nPUTBMP 0,0,\"A.Bmp\"\n")[0], "#.#.#.#...");
 }
 
+// \["] stands for a quotation mark of the name.
+TEST(StoredPicture, HasItsNameInEveryCommand) {
+    const std::string stored = download("5\\[\"].BMP", checks);
+    EXPECT_EQ(drawn(stored + "PUTBMP 0,0,\"5\\[\"].BMP\"\n")[0], "#.#.#.#...");
+    EXPECT_EQ(findingsOf(stored + "TEXT 0,0,\"5\\[\"].BMP\",0,1,1,\"a\"\n").size(), 1U);
+    EXPECT_EQ(findingsOf(stored + "KILL \"5\\[\"].BMP\"\nPUTBMP 0,0,\"5\\[\"].BMP\"\n").size(), 1U);
+}
+
 TEST(StoredPicture, IsReplacedByALaterOneOfItsName) {
     const std::string other = bmpOf(8, 1, 1, "\xFF\xFF\xFF\0\0\0\0\0"s, "\xFF\0\0\0"s);
     EXPECT_EQ(
@@ -55,6 +63,36 @@ TEST(StoredPicture, ThatIsNotInTheStreamIsRemarkedOn) {
                   1U)
             << kill;
     }
+}
+
+TEST(StoredFiles, AreNoMoreThanPrintersHave) {
+    StoredFiles files;
+    for (std::size_t i = 0; i < StoredFiles::mostFiles; ++i) {
+        ASSERT_TRUE(files.begin("F" + std::to_string(i), 0));
+    }
+    EXPECT_FALSE(files.begin("ONE MORE", 0));
+    EXPECT_TRUE(files.begin("f0", 0));
+    files.remove("F1");
+    EXPECT_TRUE(files.begin("ONE MORE", 0));
+}
+
+TEST(StoredFiles, GiveTheirRoomBackWhenTheyAreRemovedOrReplaced) {
+    StoredFiles files;
+    const std::vector<std::uint8_t> half(StoredFiles::room / 2);
+    ASSERT_TRUE(files.begin("A.BMP", half.size()));
+    files.append(half);
+    ASSERT_TRUE(files.begin("B.BMP", half.size()));
+    files.append(half);
+    EXPECT_FALSE(files.begin("C", 1));
+    EXPECT_TRUE(files.begin("A.BMP", half.size()));
+    files.append(half);
+    EXPECT_FALSE(files.begin("C", 1));
+    files.remove("B.BMP");
+    EXPECT_TRUE(files.begin("C", half.size()));
+    files.append(half);
+    EXPECT_FALSE(files.begin("D", 1));
+    files.remove("*.BMP");
+    EXPECT_TRUE(files.begin("D", half.size()));
 }
 
 TEST(StoredPicture, ThatCannotBeReadIsComplainedOf) {
@@ -82,6 +120,19 @@ TEST(StoredFiles, HaveRoomForSoMuchTogether) {
     EXPECT_EQ(files.find("b"), nullptr);
     EXPECT_EQ(files.find("a")->size(), 1000U);
     EXPECT_TRUE(files.begin("b", StoredFiles::room - 1000));
+}
+
+TEST(StoredFiles, AreForgottenByTheirEnding) {
+    StoredFiles files;
+    for (const std::string name : {"a.bmp", "b.BMP", "a.pcx"}) {
+        EXPECT_TRUE(files.begin(name, 1));
+    }
+    files.remove("*.Bmp");
+    EXPECT_EQ(files.find("a.bmp"), nullptr);
+    EXPECT_EQ(files.find("b.bmp"), nullptr);
+    EXPECT_NE(files.find("a.pcx"), nullptr);
+    files.remove("*");
+    EXPECT_EQ(files.find("a.pcx"), nullptr);
 }
 
 TEST(StoredFiles, TooLargeToBeStoredAreRemarkedOn) {

@@ -36,6 +36,15 @@ TEST(TextArgument, TellsWhatStandsBehindIt) {
     EXPECT_EQ(parseTextArgument(R"("a" )")->behind, "");
 }
 
+TEST(Name, IsWhatStandsBetweenItsMarksOrTheArgument) {
+    EXPECT_EQ(nameOf(R"("A.BMP")"), "A.BMP");
+    EXPECT_EQ(nameOf(R"("5\["]")"), "5\"");
+    EXPECT_EQ(nameOf(R"("")"), "");
+    for (const char* argument : {"A.BMP", "", "\"", "\"a", "a\"", R"("a"b)"}) {
+        EXPECT_EQ(nameOf(argument), argument);
+    }
+}
+
 TEST(Expression, IsAVariableACounterAFunctionOrASum) {
     for (const char* argument :
          {"A$", "x", "@1", "STR$(N)", "(1+2)", R"("No. "+A$)", R"("a" + "b")"}) {

@@ -45,13 +45,12 @@ TEST(TextFindings, ComplainOfAFontThatPrintersDoNotHave) {
               complaint("BLOCK does not take the font \"\\xff\""));
 }
 
-TEST(TextFindings, ComplainOfAFontFileThatWasNotDownloadedBefore) {
+TEST(TextFindings, ComplainOfAFontFileThatIsNotInTheStream) {
+    const std::string end = " of TEXT is not in the stream; the printer needs it in its memory";
     EXPECT_EQ(findingsOf(R"(TEXT 0,0,"ARIAL.TTF",0,9,9,"a")"),
-              (Texts{"complaint 0 the font \"ARIAL.TTF\" of TEXT is neither built in nor "
-                     "downloaded before",
-                     sAlike}));
-    EXPECT_EQ(findingsOf("DOWNLOAD F,\"Arial.TTF\",3,abc\nTEXT 0,0,\"ARIAL.TTF\",0,9,9,\"a\""),
-              Texts{"remark 29 TEXT is drawn in a font that is only alike"});
+              (Texts{"complaint 0 the font \"ARIAL.TTF\"" + end, sAlike}));
+    EXPECT_EQ(findingsOf(R"(TEXT 0,0,"a.fnt",0,1,1,"a")"),
+              (Texts{"complaint 0 the font \"a.fnt\"" + end, sAlike}));
     EXPECT_EQ(findingsOf("DOWNLOAD \"A.FNT\",3,abc\nTEXT 0,0,\"A.FNT\",0,9,9,\"a\""),
               Texts{"remark 23 TEXT is drawn in a font that is only alike"});
 }
@@ -120,6 +119,16 @@ TEST(TextFindings, ComplainOfABlockWithoutAnExtent) {
     EXPECT_EQ(findingsOf(R"(BLOCK 0,0,9,-1,"1",0,1,1,"a")").size(), 2U);
 }
 
+TEST(TextFindings, ComplainOfAFitThatIsNeitherOnNorOff) {
+    const auto with = [](const std::string& fit) {
+        return findingsOf("BLOCK 0,0,90,90,\"1\",0,1,1,0,0," + fit + ",\"a\"");
+    };
+    EXPECT_EQ(with("2").back(), "complaint 0 BLOCK does not take the fit 2");
+    EXPECT_EQ(with("-1").back(), "complaint 0 BLOCK does not take the fit -1");
+    EXPECT_EQ(with("0").size(), 1U);
+    EXPECT_EQ(with("1").size(), 1U);
+}
+
 TEST(TextFindings, ComplainOfABlockThatIsTooSmallForItsText) {
     EXPECT_EQ(findingsOf(R"(BLOCK 0,0,16,24,"1",0,1,1,"aa bb cc")").back(),
               "complaint 0 BLOCK has room for 2 of the 3 lines of its text");
@@ -141,8 +150,10 @@ TEST(TextFindings, ComplainOfATextThatReachesBeyondTheLabelWhereItStands) {
 }
 
 TEST(TextFindings, ForgetTextsThatAreCleared) {
-    EXPECT_EQ(findingsOf("SIZE 96 dot,48 dot\nTEXT 80,4,\"3\",0,1,1,\"MM\"\nCLS\nPRINT 1\n").size(),
-              1U);
+    EXPECT_EQ(
+        findingsOf("SIZE 96 dot,48 dot\nTEXT 80,4,\"3\",0,1,1,\"MM\"\nCLS\nBAR 0,0,1,1\nPRINT 1\n")
+            .size(),
+        1U);
 }
 
 }  // namespace

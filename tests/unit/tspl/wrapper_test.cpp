@@ -17,6 +17,12 @@ TEST(Wrapper, IsAnElementThatIsClosed) {
     }
 }
 
+TEST(Wrapper, HasANameOfAHundredLettersAtMost) {
+    const std::string longest(100, 'n');
+    EXPECT_TRUE(isWrapper("<" + longest + "></" + longest + ">"));
+    EXPECT_FALSE(isWrapper("<" + longest + "n></" + longest + "n>"));
+}
+
 TEST(Wrapper, StandsInFrontOfACommandOnItsLine) {
     EXPECT_EQ(eventsOf("<xpml><page pitch='50.8 mm'></xpml>SIZE 4,6\r\n"),
               (Texts{"command 0 <xpml><page pitch='50.8 mm'></xpml>", "command 35 SIZE 4,6"}));
