@@ -31,7 +31,10 @@ std::set<std::string> wholeBeginnings(const reference::Job& job) {
         sent += commands;
         beginnings.insert(sent);
     };
-    send(reference::preamble());
+    // Each of its line feeds is a command of its own.
+    for (const char lineFeed : reference::preamble()) {
+        send(std::string(1, lineFeed));
+    }
     for (const reference::Page& page : job.pages) {
         const PageCommands commands = commandsOf(job, page);
         send(commands.setUp);

@@ -6,8 +6,8 @@
 #include "tests/reference/job.h"
 
 /// Everything that a job may have sent when it ends early with whole commands only, each time
-/// where the filter may end: before and behind the line feeds, behind a page's CLS, behind its
-/// bitmap and behind its PRINT.
+/// where the filter may end: before, between and behind the line feeds, behind a page's CLS,
+/// behind its bitmap and behind its PRINT.
 std::set<std::string> wholeBeginnings(const reference::Job& job);
 
 /// As above, where it may end once a job is cancelled while it sends the bitmap of a page, pages
