@@ -74,7 +74,7 @@ printable() {
 # print_document PPD DOCUMENT NAME OPTION...: NAME.tspl, pictures of its labels, and a list of what
 # is sent
 print_document() {
-    local ppd=$1 document=$2 name=$3 job_options='' option source copies=1
+    local ppd=$1 document=$2 name=$3 job_options='' option source copies=1 sound=yes
     shift 3
     # Should this run fail, no results of an earlier one are mistaken for its own.
     rm -f "$name.tspl" "$name.pdf" "$name"-[0-9]*.png
@@ -92,8 +92,12 @@ print_document() {
 
     echo
     echo "Printed $document to $name.tspl (log: $name.log)"
-    "$previewer" --check "$name.tspl" || fail "there is something wrong with this stream"
+    # Pictures show what is complained of. The others complain in the same words.
+    "$previewer" --check "$name.tspl" || sound=
     "$previewer" --list "$name.tspl" 2>/dev/null
     echo "Pictures of the labels:"
-    "$previewer" -o "$name" "$name.tspl" | sed 's/^/  /'
+    "$previewer" -o "$name" "$name.tspl" 2>"$name.preview.log" | sed 's/^/  /' ||
+        fail_with_log "the labels cannot be drawn" "$name.preview.log"
+    rm "$name.preview.log"
+    [[ -n $sound ]] || fail "there is something wrong with this stream"
 }

@@ -78,15 +78,20 @@ bool isSettingOfEpl(std::string_view line) {
 }  // namespace
 
 std::string_view foreignFormat(std::string_view firstLine) {
-    if (isWideText(firstLine)) {
+    const std::string_view format = foreignBeginning(firstLine);
+    return format.empty() && isSettingOfEpl(firstLine) ? "EPL" : format;
+}
+
+std::string_view foreignBeginning(std::string_view line) {
+    if (isWideText(line)) {
         return "UTF-16";
     }
     for (const auto& [beginning, name] : sBeginnings) {
-        if (firstLine.starts_with(beginning)) {
+        if (line.starts_with(beginning)) {
             return name;
         }
     }
-    return isSettingOfEpl(firstLine) ? "EPL" : "";
+    return "";
 }
 
 }  // namespace tspl

@@ -8,4 +8,8 @@ namespace tspl {
 /// for people; empty when it may be TSPL.
 std::string_view foreignFormat(std::string_view firstLine);
 
+/// As above, of a line behind TSPL. The single letters of EPL are mistakes in TSPL as well: they
+/// name nothing here.
+std::string_view foreignBeginning(std::string_view line);
+
 }  // namespace tspl

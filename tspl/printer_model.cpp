@@ -44,11 +44,15 @@ void PrinterModel::onCommand(const Command& command) {
 bool PrinterModel::isForeign(const Command& command) {
     if (!std::exchange(hasBegun_, true)) {
         if (const auto format = foreignFormat(command.text); !format.empty()) {
-            printer_.complain(command, "this is no TSPL: it looks like " + std::string(format));
+            complainOfForeign(command, format);
             isForeign_ = true;
         }
     }
     return isForeign_;
+}
+
+void PrinterModel::complainOfForeign(const Command& command, std::string_view format) {
+    printer_.complain(command, "this is no TSPL: it looks like " + std::string(format));
 }
 
 std::string PrinterModel::obey(const Command& command) {
@@ -62,6 +66,7 @@ std::string PrinterModel::obey(const Command& command) {
     if (rule == nullptr) {
         return refuse(command);
     }
+    isInForeignPart_ = false;
     if (const auto fault = findFault(*rule, command)) {
         printer_.complain(command, *fault);
         return "not understood";
@@ -80,6 +85,14 @@ std::string PrinterModel::obey(const Command& command) {
 std::string PrinterModel::refuse(const Command& command) {
     if (isBasicStatement(command)) {
         return passOverBasic(command);
+    }
+    if (isInForeignPart_) {
+        return "unknown";
+    }
+    if (const auto format = foreignBeginning(command.text); !format.empty()) {
+        complainOfForeign(command, format);
+        isInForeignPart_ = true;
+        return "unknown";
     }
     const bool badBitmap = command.name == "BITMAP";
     printer_.complain(command, (badBitmap ? "BITMAP needs two positions, a width, a height, a "

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "tspl/bitmap_drawing.h"
 #include "tspl/printer.h"
@@ -36,12 +37,14 @@ private:
     [[nodiscard]] std::string refuse(const Command& command);
     [[nodiscard]] std::string passOverBasic(const Command& command);
     [[nodiscard]] bool isForeign(const Command& command);
+    void complainOfForeign(const Command& command, std::string_view format);
 
     Printer printer_;
     BitmapDrawing bitmap_;
-    bool hasBegun_ = false;      ///< a line that is not blank has come
-    bool isForeign_ = false;     ///< another language: nothing of it is obeyed
-    bool hasSeenBasic_ = false;  ///< and has been spoken of
+    bool hasBegun_ = false;         ///< a line that is not blank has come
+    bool isForeign_ = false;        ///< another language: nothing of it is obeyed
+    bool isInForeignPart_ = false;  ///< behind TSPL, to the next command of it: spoken of
+    bool hasSeenBasic_ = false;     ///< and has been spoken of
 };
 
 }  // namespace tspl

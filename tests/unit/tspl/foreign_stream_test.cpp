@@ -68,8 +68,24 @@ TEST(ForeignStream, PrintsNothingAndListsNothing) {
     EXPECT_TRUE(sink.entries.empty());
 }
 
-TEST(ForeignStream, IsToldByItsBeginningOnly) {
+TEST(ForeignStream, OfEplIsToldByItsBeginningOnly) {
     EXPECT_EQ(findingsOf("SIZE 4,6\nN\n"), Texts{"complaint 9 unknown command: N"});
+}
+
+TEST(ForeignStream, BehindTsplIsComplainedOfOnceUpToTheNextCommand) {
+    EXPECT_EQ(findingsOf("SIZE 4,6\nCLS\n^XA\n^FO50,50\n^FDx^FS\n^XZ\nDENSITY 8\n^FO1,1\n"),
+              (Texts{"complaint 13 this is no TSPL: it looks like ZPL",
+                     "complaint 48 unknown command: ^FO1,1"}));
+    EXPECT_EQ(findingsOf("CLS\n%PDF-1.4\n1 0 obj\nendobj\nCLS\n^XA\n"),
+              (Texts{"complaint 4 this is no TSPL: it looks like PDF",
+                     "complaint 32 this is no TSPL: it looks like ZPL"}));
+}
+
+TEST(ForeignStream, BehindTsplHidesNoCommandOfTheLabel) {
+    RecordingSink sink;
+    obeyStream("SIZE 4,6\nCLS\n^XA\n^XZ\nBAR 0,0,8,8\nPRINT 1\n", sink);
+    ASSERT_EQ(sink.labels.size(), 1U);
+    EXPECT_EQ(sink.entries.size(), 6U);
 }
 
 TEST(ForeignStream, MayBeTsplBehindAByteOrderMark) {
