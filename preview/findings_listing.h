@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <unordered_map>
@@ -18,7 +19,8 @@ struct ToldFindings {
 };
 
 /// Writes findings, one per line. What is found again in the same words, as it is on every label
-/// of a job, is counted, and told at the end.
+/// of a job, is counted, and told at the end. So is what differs from a finding of an earlier label
+/// in its numbers only, as where each label has a longer number on it.
 class FindingsListing : public tspl::Sink {
 public:
     /// `source` is what the lines start with: the name of the stream.
@@ -39,8 +41,10 @@ private:
         std::uint64_t lastLabel = 0;
         std::uint64_t times = 0;   ///< after the first one
         std::uint64_t labels = 0;  ///< on which it was found again, without the first one
+        bool otherNumbers = false;
     };
     bool isRepeated(const std::string& text);
+    [[nodiscard]] std::optional<std::size_t> findRepeated(const std::string& text);
     void writeSize(const tspl::PrintedLabel& label);
     void endLabel();
 
@@ -51,7 +55,10 @@ private:
     bool isComplainedOf_ = false;  ///< the label under way
     std::string size_;             ///< that was told last
     std::vector<Repeat> found_;
-    std::unordered_map<std::string, std::size_t> places_;  ///< of texts in `found_`
+    std::unordered_map<std::string, std::size_t> places_;  ///< in `found_`, of numbered shapes
+    std::unordered_map<std::string, std::size_t>
+        texts_;  ///< of this label: their place in `found_`
+    std::unordered_map<std::string, std::uint64_t> shapes_;  ///< of this label: how many texts
 };
 
 }  // namespace preview

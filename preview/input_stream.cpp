@@ -62,7 +62,7 @@ std::span<const std::uint8_t> InputStream::read() {
 }
 
 bool InputStream::hasShrunk() const {
-    return bytes() < position_;
+    return mayGrow() && bytes() < position_;
 }
 
 bool InputStream::isReplaced() const {

@@ -34,7 +34,7 @@ public:
 
     /// Whether a stream that is at its end may go on: a file, to which others may write.
     [[nodiscard]] bool mayGrow() const { return fileStatus().has_value(); }
-    /// Whether the file has become shorter than what was read of it.
+    /// Whether a file has become shorter than what was read of it.
     [[nodiscard]] bool hasShrunk() const;
     /// Whether another file has the name by now.
     [[nodiscard]] bool isReplaced() const;

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <sstream>
 
@@ -171,6 +172,24 @@ void checkTogether(const RawOptions& raw) {
     }
 }
 
+// A recording cannot be made again: no output takes its place, nor that of another output.
+void checkOutputs(const Options& options) {
+    std::error_code none;
+    for (const Source& source : options.sources) {
+        if (options.pdf && std::filesystem::equivalent(*options.pdf, source.file, none)) {
+            throw CLI::ValidationError("--pdf", "is the stream itself: " + source.file);
+        }
+        for (const Source& other : options.sources) {
+            if (options.writesPictures && isPictureName(source.pictures, other.file)) {
+                throw CLI::ValidationError("FILE", "a picture would take its place: " + other.file);
+            }
+        }
+        if (options.pdf && options.writesPictures && isPictureName(source.pictures, *options.pdf)) {
+            throw CLI::ValidationError("--pdf", "is the name of a picture: " + *options.pdf);
+        }
+    }
+}
+
 }  // namespace
 
 std::variant<Options, int> parseOptions(int argc, char* argv[]) {
@@ -180,10 +199,12 @@ std::variant<Options, int> parseOptions(int argc, char* argv[]) {
     try {
         app.parse(argc, argv);
         checkTogether(raw);
+        Options options = finished(raw, app.count("--output") > 0);
+        checkOutputs(options);
+        return options;
     } catch (const CLI::ParseError& end) {
         return end.get_exit_code() == 0 ? inform(app, end) : complain(app, end);
     }
-    return finished(raw, app.count("--output") > 0);
 }
 
 }  // namespace preview

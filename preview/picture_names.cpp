@@ -6,8 +6,14 @@
 namespace preview {
 namespace {
 
+namespace fs = std::filesystem;
+
+fs::path folderOf(const fs::path& path) {
+    return path.has_parent_path() ? path.parent_path() : ".";
+}
+
 std::string stemOf(const std::string& input) {
-    const std::string stem = std::filesystem::path(input).stem().string();
+    const std::string stem = fs::path(input).stem().string();
     return input == "-" || stem.empty() ? "label" : stem;
 }
 
@@ -51,6 +57,23 @@ std::vector<std::string> pictureNames(const std::vector<std::string>& inputs,
         }
     }
     return names;
+}
+
+bool isPictureName(const std::string& prefix, const std::string& file) {
+    const fs::path start = prefix;
+    const fs::path path = file;
+    const std::string beginning = start.filename().string() + "-";
+    const std::string name = path.filename().string();
+    constexpr std::string_view ending = ".png";
+    if (!name.starts_with(beginning) || !name.ends_with(ending) ||
+        name.size() <= beginning.size() + ending.size()) {
+        return false;
+    }
+    const std::string number =
+        name.substr(beginning.size(), name.size() - beginning.size() - ending.size());
+    std::error_code none;
+    return number.find_first_not_of("0123456789") == std::string::npos &&
+           fs::equivalent(folderOf(start), folderOf(path), none);
 }
 
 }  // namespace preview

@@ -16,4 +16,8 @@ namespace preview {
 std::vector<std::string> pictureNames(const std::vector<std::string>& inputs,
                                       const std::optional<std::string>& prefix);
 
+/// Whether a file has the name of a picture whose name begins with `prefix`: PREFIX-1.png and so
+/// on.
+bool isPictureName(const std::string& prefix, const std::string& file);
+
 }  // namespace preview

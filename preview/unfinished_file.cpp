@@ -33,7 +33,7 @@ std::string whyNotReplaced(const std::string& name) {
 }  // namespace
 
 UnfinishedFile::UnfinishedFile(const std::string& name)
-    : name_(behindLinks(name)), part_(name_ + ".part") {}
+    : given_(name), name_(behindLinks(name)), part_(name_ + ".part") {}
 
 UnfinishedFile::~UnfinishedFile() {
     file_.reset();
@@ -43,7 +43,8 @@ UnfinishedFile::~UnfinishedFile() {
 }
 
 std::string UnfinishedFile::open() {
-    if (std::string why = whyNotReplaced(name_); !why.empty()) {
+    // A link of the system to a pipe leads to what has no name.
+    if (std::string why = whyNotReplaced(given_); !why.empty()) {
         return why;
     }
     // Before there is a file, so that no signal comes in between.

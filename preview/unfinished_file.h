@@ -35,6 +35,7 @@ private:
         void operator()(std::FILE* file) const { std::fclose(file); }
     };
 
+    std::string given_;
     std::string name_;
     std::string part_;
     std::optional<UnfinishedName> removal_;

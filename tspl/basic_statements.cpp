@@ -9,9 +9,9 @@ namespace tspl {
 namespace {
 
 constexpr std::string_view sWords[] = {
-    "FOR",  "NEXT",  "WHILE",  "WEND", "IF",   "THEN",  "ELSE", "ELSEIF", "ENDIF",
-    "GOTO", "GOSUB", "RETURN", "LET",  "DIM",  "INPUT", "OPEN", "READ",   "WRITE",
-    "SEEK", "CLOSE", "COPY",   "DO",   "LOOP", "ON",    "STOP", "EXITFOR"};
+    "FOR",  "NEXT",  "WHILE",  "WEND", "IF",   "THEN",  "ELSE", "ELSEIF",  "ENDIF",
+    "GOTO", "GOSUB", "RETURN", "LET",  "DIM",  "INPUT", "OPEN", "READ",    "WRITE",
+    "SEEK", "CLOSE", "COPY",   "DO",   "LOOP", "ON",    "STOP", "EXITFOR", "EXITDO"};
 
 // NAME=, NAME$=, NAME(1)=.
 bool isAssignment(const Command& command) {

@@ -107,19 +107,33 @@ void BitmapDrawing::complainOfLength(Printer& printer, std::uint64_t received) c
     } else if (inflation_ && inflation_->bytes() < head_.pictureBytes()) {
         printer.complain(head_, "the data of BITMAP in mode 3 hold less than the picture: " +
                                     ofBytes(inflation_->bytes(), head_.pictureBytes()));
+    } else if (inflation_ && inflation_->holdsMore()) {
+        printer.complain(head_, "the data of BITMAP in mode 3 hold more than the picture");
+    } else if (inflation_ && inflation_->taken() < received) {
+        printer.complain(head_, "the data of BITMAP in mode 3 end behind " +
+                                    std::to_string(inflation_->taken()) + " of " +
+                                    std::to_string(received) + " bytes; the others are lost");
     }
+}
+
+std::optional<std::uint64_t> BitmapDrawing::unpackedBytes() const {
+    return inflation_ ? std::optional(inflation_->bytes()) : std::nullopt;
 }
 
 void BitmapDrawing::end(Printer& printer, std::uint64_t received) {
     complainOfLength(printer, received);
-    printer.label.noteDrawn(head_);
+    printer.label.noteDrawn(head_, "BITMAP");
     std::vector<std::string> arguments = argumentsOf(head_);
     std::string text = "BITMAP ";
     for (const std::string& argument : arguments) {
         text += argument + ",";
     }
-    const BitmapSummary summary{dotsPerByte * head_.rowBytes, head_.rows, head_.dataBytes(),
-                                received, burnt_};
+    const BitmapSummary summary{dotsPerByte * head_.rowBytes,
+                                head_.rows,
+                                head_.dataBytes(),
+                                received,
+                                burnt_,
+                                unpackedBytes()};
     printer.sink().onEntry(
         {head_.offset, "BITMAP", std::move(arguments), std::move(text), summary, remark_});
 }

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -32,6 +33,7 @@ private:
     void inflate(Printer& printer, std::span<const std::uint8_t> data);
     void draw(Printer& printer, std::uint64_t position, std::span<const std::uint8_t> burning);
     void complainOfLength(Printer& printer, std::uint64_t received) const;
+    [[nodiscard]] std::optional<std::uint64_t> unpackedBytes() const;
 
     BitmapHead head_;
     std::string remark_;       ///< why it is not drawn; empty where it is

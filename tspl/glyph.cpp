@@ -200,6 +200,10 @@ bool isBlank(char32_t character) {
     return character <= U' ' || (character >= firstHighControl && character <= fixedBlank);
 }
 
+bool hasOutline(const Font& font, char32_t character) {
+    return outlineOf(font, character).index != 0;
+}
+
 std::int32_t advanceOf(const Font& font, std::int32_t width, std::int32_t height,
                        char32_t character) {
     if (!font.isScalable()) {

@@ -26,6 +26,10 @@ inline constexpr std::int32_t mostGlyphDots = 4096;
 /// Whether a character leaves no dot in any font: blanks and codes that only steer.
 bool isBlank(char32_t character);
 
+/// Whether the character has an outline: in a downloaded font, or in any font of this system. A box
+/// is drawn for one that has none.
+bool hasOutline(const Font& font, char32_t character);
+
 /// How far a character moves on, in dots: by its cell, or as its outline has it.
 /// For fonts of cells `width` and `height` are those of the cell, without multiplication; for
 /// scalable ones those of the font in dots, 1 to `mostGlyphDots`.

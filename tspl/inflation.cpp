@@ -32,13 +32,18 @@ void Inflation::feed(std::span<const std::uint8_t> data, std::uint64_t mostBytes
         if (wanted == 0) {
             // Behind the picture the checksum is looked at, or the first byte too many and nothing
             // after it: so it means the same wherever the data are cut.
-            isAtEnd_ = isAtEnd_ || !made.empty();
+            holdsMore_ = !made.empty();
+            isAtEnd_ = isAtEnd_ || holdsMore_;
             isBroken_ = isBroken_ && made.empty();
         } else {
             bytes_ += made.size();
             take(made);
         }
     }
+}
+
+std::uint64_t Inflation::taken() const {
+    return stream_->total_in;
 }
 
 std::span<const std::uint8_t> Inflation::inflateInto(std::span<std::uint8_t> room) {

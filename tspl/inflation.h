@@ -27,6 +27,10 @@ public:
     [[nodiscard]] std::uint64_t bytes() const { return bytes_; }
     /// Whether something other than zlib data came, or data that their checksum is not that of.
     [[nodiscard]] bool isBroken() const { return isBroken_; }
+    /// Whether there was more in the data than was to come out.
+    [[nodiscard]] bool holdsMore() const { return holdsMore_; }
+    /// Bytes of data up to the end of the zlib data, or so far where that did not come.
+    [[nodiscard]] std::uint64_t taken() const;
 
 private:
     std::span<const std::uint8_t> inflateInto(std::span<std::uint8_t> room);
@@ -35,6 +39,7 @@ private:
     std::uint64_t bytes_ = 0;
     bool isBroken_ = false;
     bool isAtEnd_ = false;
+    bool holdsMore_ = false;
 };
 
 }  // namespace tspl

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace tspl {
 namespace {
@@ -30,6 +31,16 @@ bool areSame(const std::optional<Length>& a, const std::optional<Length>& b) {
 double mostDotsOf(const Length& length, int dpi) {
     const double metric = length.unit == Unit::Millimetre ? 1.001 : 1;
     return std::ceil(metric * lengthInDots(length, dpi) + precisionInDots(length, dpi)) + 1;
+}
+
+// The fewest dots that the length can be meant to have, without the last ones.
+std::int64_t fewestDotsOf(const Length& length, int dpi) {
+    const double dots = lengthInDots(length, dpi) - precisionInDots(length, dpi) - 1;
+    return static_cast<std::int64_t>(std::floor(std::clamp(dots, 0.0, 1e15)));
+}
+
+bool reachesOver(const Extent& extent, std::int64_t width, std::int64_t height) {
+    return extent.left < 0 || extent.top < 0 || extent.right > width || extent.bottom > height;
 }
 
 // A page that is no whole number of bytes wide has a bitmap that ends some dots past the edge.
@@ -91,30 +102,34 @@ void Label::clear() {
     lacksMarks_ = false;
 }
 
-// Only a command that reaches farther than those before can be the first one over an edge.
-void Label::noteDrawn(const Place& place) {
-    Extent extent = canvas_.takeExtent();
-    if (extent.right <= extent.left) {
+// Which resolution the label has may be known only at its end: at the lowest one it is smallest.
+bool Label::mayReachOver(const Extent& extent) const {
+    const int dpi = givenDpi_.value_or(usualDpi);
+    const std::int64_t width = size_ ? fewestDotsOf(size_->width, dpi) : canvas_.width();
+    const std::int64_t height =
+        size_ && size_->height ? fewestDotsOf(*size_->height, dpi) : canvas_.height();
+    return reachesOver(extent, width, height);
+}
+
+void Label::noteDrawn(const Place& place, std::string_view name) {
+    const Extent extent = canvas_.takeExtent();
+    if (extent.right <= extent.left || !mayReachOver(extent)) {
         return;
     }
-    const Extent before = drawn_.empty() ? Extent{} : drawn_.back().extent;
-    extent.add(before);
-    // A stream may draw farther and farther; the last one stands for all that follow then.
     constexpr std::size_t most = 1000;
     if (drawn_.size() == most) {
-        drawn_.back().extent = extent;
-    } else if (extent != before) {
-        drawn_.push_back({place, extent});
+        drawn_.back().extent.add(extent);
+    } else {
+        drawn_.push_back({place, std::string(name), extent});
     }
 }
 
-std::optional<Place> Label::overhanging(const LabelDots& dots) const {
-    const auto reachesOver = [&dots](const Drawn& drawn) {
-        return drawn.extent.left < 0 || drawn.extent.top < 0 || drawn.extent.right > dots.width ||
-               drawn.extent.bottom > dots.height;
-    };
-    const auto first = std::find_if(drawn_.begin(), drawn_.end(), reachesOver);
-    return first == drawn_.end() ? std::nullopt : std::optional<Place>(first->place);
+std::vector<Label::Drawn> Label::overhanging(const LabelDots& dots) const {
+    std::vector<Drawn> found;
+    std::copy_if(
+        drawn_.begin(), drawn_.end(), std::back_inserter(found),
+        [&dots](const Drawn& drawn) { return reachesOver(drawn.extent, dots.width, dots.height); });
+    return found;
 }
 
 void Label::noteBitmap(const BitmapHead& head, std::int64_t x, std::int64_t y) {

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "tspl/command.h"
@@ -61,11 +63,17 @@ public:
     [[nodiscard]] int resolution() { return knownResolution().dpi; }
 
     /// Takes notice of what the command at `place` has drawn on the canvas.
-    void noteDrawn(const Place& place);
+    void noteDrawn(const Place& place, std::string_view name);
 
-    /// The first command that has drawn over an edge of a label of this size; nothing where none
-    /// has.
-    [[nodiscard]] std::optional<Place> overhanging(const LabelDots& dots) const;
+    /// A command with the edges of what it has drawn.
+    struct Drawn {
+        Place place;
+        std::string name;
+        Extent extent;
+    };
+    /// The commands that have drawn over an edge of a label of this size. Of a thousand and more
+    /// the last one stands for all that follow.
+    [[nodiscard]] std::vector<Drawn> overhanging(const LabelDots& dots) const;
 
     /// The size of the label as it is printed now. Without a SIZE it ends where the last dot
     /// does. 0 dots wide or high when the label was refused or no size can be told.
@@ -90,6 +98,7 @@ private:
     [[nodiscard]] Resolution knownResolution();
     [[nodiscard]] bool isTooLarge(const LabelSize& size) const;
     [[nodiscard]] int canvasDpi() const;
+    [[nodiscard]] bool mayReachOver(const Extent& extent) const;
     [[nodiscard]] double mostRowsOf(const LabelSize& size, double width) const;
 
     std::optional<int> givenDpi_;
@@ -99,12 +108,7 @@ private:
     DotCanvas canvas_;
     Overhang widest_;
     Overhang highest_;
-    /// The commands that reached farther than all before them, with how far it was until then.
-    struct Drawn {
-        Place place;
-        Extent extent;
-    };
-    std::vector<Drawn> drawn_;
+    std::vector<Drawn> drawn_;  ///< what may reach over an edge
     bool refused_ = false;
     bool lacksMarks_ = false;
 };

@@ -167,6 +167,20 @@ std::u32string readCharacters(Printer& printer, const Command& command, const Fo
     return charactersOf(converted.utf8);
 }
 
+// Those that a code page does not have are spoken of by then.
+void remarkBoxes(Printer& printer, const Command& command, const Font& font,
+                 std::u32string_view characters) {
+    const auto isBox = [&font](char32_t c) {
+        return !isBlank(c) && c != replacementCharacter && !hasOutline(font, c);
+    };
+    if (std::any_of(characters.begin(), characters.end(), isBox)) {
+        printer.remarkOnce(command, command.name + " holds characters that " +
+                                        (font.downloaded ? "its font does not have"
+                                                         : "no font of this system has") +
+                                        "; boxes stand for them");
+    }
+}
+
 }  // namespace
 
 std::optional<std::int32_t> readInteger(Printer& printer, const Command& command,
@@ -192,8 +206,9 @@ std::optional<Lettering> readLettering(Printer& printer, const Command& command,
         command, command.name + (font->font.downloaded ? " is drawn in the font that the stream "
                                                          "brings along; its dots are only alike"
                                                        : " is drawn in a font that is only alike"));
-    return Lettering{*font, *frame, *alignment,
-                     readCharacters(printer, command, font->font, *text)};
+    std::u32string characters = readCharacters(printer, command, font->font, *text);
+    remarkBoxes(printer, command, font->font, characters);
+    return Lettering{*font, *frame, *alignment, std::move(characters)};
 }
 
 }  // namespace tspl

@@ -24,6 +24,49 @@ void reportOverhang(Printer& printer, const LabelDots& dots) {
     }
 }
 
+// How far it reaches over which edges.
+std::string beyond(const Extent& extent, const LabelDots& dots) {
+    std::string text;
+    const auto add = [&text](const char* to, std::int64_t end) {
+        text += (text.empty() ? "" : " and ") + std::string(to) + std::to_string(end);
+    };
+    if (extent.left < 0) {
+        add("from dot ", extent.left);
+    }
+    if (extent.top < 0) {
+        add("from row ", extent.top);
+    }
+    if (extent.right > dots.width) {
+        add("to dot ", extent.right);
+    }
+    if (extent.bottom > dots.height) {
+        add("to row ", extent.bottom);
+    }
+    return text;
+}
+
+// The first command bears the number of dots; a bitmap that is too large has been complained of.
+void reportOutside(Printer& printer, const Command& command, const LabelDots& dots,
+                   std::uint64_t outside) {
+    const auto overhanging = printer.label.overhanging(dots);
+    printer.complain(overhanging.empty() ? command : overhanging.front().place,
+                     outside == 1
+                         ? "1 dot lies outside the label and is cut off"
+                         : std::to_string(outside) + " dots lie outside the label and are cut off");
+    const auto widest = printer.label.widestOverhang(dots);
+    const auto highest = printer.label.highestOverhang(dots);
+    for (std::size_t i = 1; i < overhanging.size(); ++i) {
+        const Label::Drawn& drawn = overhanging[i];
+        const auto isOf = [&drawn](const std::optional<Label::Overhang>& overhang) {
+            return overhang && overhang->place.offset == drawn.place.offset;
+        };
+        if (!isOf(widest) && !isOf(highest)) {
+            printer.complain(drawn.place, drawn.name + " reaches beyond the label, too: " +
+                                              beyond(drawn.extent, dots));
+        }
+    }
+}
+
 void printLabel(Printer& printer, const Command& command, std::int32_t sets, std::int32_t copies) {
     const LabelDots dots = printer.label.dots();
     ++printer.labels;
@@ -40,10 +83,7 @@ void printLabel(Printer& printer, const Command& command, std::int32_t sets, std
     const std::uint64_t printed = picture.burntDots();
     const std::uint64_t outside = sum(onCanvas - printed, printer.label.canvas().dotsOutside());
     if (outside > 0) {
-        printer.complain(
-            printer.label.overhanging(dots).value_or(command),
-            outside == 1 ? "1 dot lies outside the label and is cut off"
-                         : std::to_string(outside) + " dots lie outside the label and are cut off");
+        reportOutside(printer, command, dots, outside);
     }
     if (printed == 0 && outside == 0 && !printer.label.lacksMarks()) {
         printer.complain(command, "the label is blank");

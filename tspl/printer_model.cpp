@@ -12,6 +12,10 @@ namespace {
 
 constexpr char escape = '\x1b';
 
+// So many lines that are no commands, one behind the other, are complained of one by one: what is
+// behind them is text, data or another language.
+constexpr int mostUnknownLines = 10;
+
 // Commands to the printer itself at any time, values of a counter, and what other programs wrap
 // commands in: no command words.
 bool isOtherLine(const Command& command) {
@@ -66,7 +70,10 @@ std::string PrinterModel::obey(const Command& command) {
     if (rule == nullptr) {
         return refuse(command);
     }
-    isInForeignPart_ = false;
+    noteCommand();
+    if (variables_.areUsedBy(command, *rule)) {
+        return passOverVariables(command);
+    }
     if (const auto fault = findFault(*rule, command)) {
         printer_.complain(command, *fault);
         return "not understood";
@@ -77,7 +84,7 @@ std::string PrinterModel::obey(const Command& command) {
     }
     if (rule->obey != nullptr) {
         rule->obey(printer_, command);
-        printer_.label.noteDrawn(command);
+        printer_.label.noteDrawn(command, command.name);
     }
     return "";
 }
@@ -95,6 +102,11 @@ std::string PrinterModel::refuse(const Command& command) {
         return "unknown";
     }
     const bool badBitmap = command.name == "BITMAP";
+    if (!badBitmap && ++unknownLines_ > mostUnknownLines) {
+        printer_.complain(command, "no command here either: up to the next one no more is said");
+        isInForeignPart_ = true;
+        return "unknown";
+    }
     printer_.complain(command, (badBitmap ? "BITMAP needs two positions, a width, a height, a "
                                             "mode and data: "
                                           : "unknown command: ") +
@@ -102,8 +114,21 @@ std::string PrinterModel::refuse(const Command& command) {
     return badBitmap ? "not understood" : "unknown";
 }
 
+// A label is printed, however often.
+std::string PrinterModel::passOverVariables(const Command& command) {
+    printer_.label.noteUndrawn();
+    if (command.name == "PRINT") {
+        Command once = command;
+        once.arguments = {"1"};
+        findRule(once.name)->obey(printer_, once);
+        return "drawn once";
+    }
+    return "not run";
+}
+
 // Printers run them; what they draw cannot be told without running them here, too.
 std::string PrinterModel::passOverBasic(const Command& command) {
+    variables_.note(command);
     printer_.label.noteUndrawn();
     if (!std::exchange(hasSeenBasic_, true)) {
         printer_.remark(command, "BASIC statements are not run");
@@ -111,7 +136,13 @@ std::string PrinterModel::passOverBasic(const Command& command) {
     return "not run";
 }
 
+void PrinterModel::noteCommand() {
+    isInForeignPart_ = false;
+    unknownLines_ = 0;
+}
+
 void PrinterModel::onBitmap(const BitmapHead& head) {
+    noteCommand();
     bitmap_ = BitmapDrawing(printer_, head);
 }
 
@@ -150,7 +181,9 @@ void PrinterModel::onLongLine(const Place& place) {
     if (isForeign_) {
         return;
     }
-    printer_.complain(place, "a line that is longer than any command is skipped");
+    if (!isInForeignPart_) {
+        printer_.complain(place, "a line that is longer than any command is skipped");
+    }
     printer_.sink().onEntry({place.offset, "", {}, "(a long line)", std::nullopt, "skipped"});
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "tspl/basic_variables.h"
 #include "tspl/bitmap_drawing.h"
 #include "tspl/printer.h"
 #include "tspl/stream_handler.h"
@@ -36,14 +37,18 @@ private:
     [[nodiscard]] std::string obey(const Command& command);
     [[nodiscard]] std::string refuse(const Command& command);
     [[nodiscard]] std::string passOverBasic(const Command& command);
+    [[nodiscard]] std::string passOverVariables(const Command& command);
     [[nodiscard]] bool isForeign(const Command& command);
+    void noteCommand();
     void complainOfForeign(const Command& command, std::string_view format);
 
     Printer printer_;
     BitmapDrawing bitmap_;
+    BasicVariables variables_;
     bool hasBegun_ = false;         ///< a line that is not blank has come
     bool isForeign_ = false;        ///< another language: nothing of it is obeyed
     bool isInForeignPart_ = false;  ///< behind TSPL, to the next command of it: spoken of
+    int unknownLines_ = 0;          ///< since the last command
     bool hasSeenBasic_ = false;     ///< and has been spoken of
 };
 

@@ -16,13 +16,14 @@ void setSize(Printer& printer, const Command& command) {
     const auto width = parseLength(command.arguments[0]);
     const auto height =
         command.arguments.size() == 2 ? parseLength(command.arguments[1]) : std::nullopt;
-    if (width && !printer.label.setSize({*width, height})) {
-        printer.complain(command, "a label of this size is too large to draw: " + quoted(command));
-    } else if (width && width->unit == Unit::Inch && width->value > widestHeadInches) {
+    const bool isDrawn = width && printer.label.setSize({*width, height});
+    if (width && width->unit == Unit::Inch && width->value > widestHeadInches) {
         printer.complain(command,
                          "no printer is as wide as this label; a number alone is in "
                          "inches: " +
                              quoted(command));
+    } else if (width && !isDrawn) {
+        printer.complain(command, "a label of this size is too large to draw: " + quoted(command));
     }
 }
 

@@ -4,10 +4,11 @@ namespace tspl {
 
 double BitmapSummary::burntShare() const {
     constexpr double dotsPerByte = 8;
-    if (receivedBytes == 0) {
+    const std::uint64_t pictureBytes = unpackedBytes.value_or(receivedBytes);
+    if (pictureBytes == 0) {
         return 0;
     }
-    return static_cast<double>(burntDots) / (dotsPerByte * static_cast<double>(receivedBytes));
+    return static_cast<double>(burntDots) / (dotsPerByte * static_cast<double>(pictureBytes));
 }
 
 }  // namespace tspl

@@ -17,6 +17,8 @@ struct BitmapSummary {
     std::uint64_t expectedBytes = 0;
     std::uint64_t receivedBytes = 0;
     std::uint64_t burntDots = 0;  ///< among the bytes received
+    /// Bytes of the picture that compressed data held; none where the data are the picture.
+    std::optional<std::uint64_t> unpackedBytes{};
 
     /// Share of the dots received that burn, from 0 to 1; 0 for no dots.
     [[nodiscard]] double burntShare() const;

@@ -51,6 +51,28 @@ TEST(PreviewCommandLine, StandardInputIsDrawnAsLabel) {
     }
 }
 
+TEST(PreviewCommandLine, NoOutputTakesThePlaceOfAStreamOrOfAnotherOutput) {
+    const TemporaryFolder folder;
+    const std::string stream = smallLabel(letterBitmap);
+    folder.write("a-1.png", stream);
+    folder.write("job", stream);
+    std::filesystem::create_symlink("job", folder.path("other"));
+    for (const std::vector<std::string>& arguments :
+         std::vector<std::vector<std::string>>{{"-o", "a", "a-1.png"},
+                                               {"-o", "./a", "job", "a-1.png", "--list", "-o", "a"},
+                                               {"--pdf", "job", "job"},
+                                               {"--pdf", "other", "job"},
+                                               {"--pdf", "x-1.png", "-o", "x", "job"}}) {
+        const FilterResult result = runPreview(folder, arguments);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.standardOutput, "");
+        EXPECT_NE(result.standardError, "");
+    }
+    EXPECT_EQ(folder.names(), (Names{"a-1.png", "job", "other"}));
+    EXPECT_EQ(readFile(folder.path("job")), stream);
+    EXPECT_EQ(readFile(folder.path("a-1.png")), stream);
+}
+
 TEST(PreviewCommandLine, APipeIsDrawnAsAFileIs) {
     const TemporaryFolder folder;
     folder.write("stream", smallLabel(letterBitmap));

@@ -108,6 +108,14 @@ TEST(PreviewFailure, AFailedPictureDoesNotKeepTheNextOneFromBeingDrawn) {
     EXPECT_EQ(folder.names(), (Names{"label-1.png", "label-2.png"}));
 }
 
+TEST(PreviewFailure, APipeBehindALinkOfTheSystemIsNoPlaceForAPdf) {
+    const TemporaryFolder folder;
+    folder.write("job", smallLabel(letterBitmap));
+    const FilterResult result =
+        runFilter(shellCall(folder, "\"$PREVIEW\" --pdf /dev/stdout job | cat"));
+    EXPECT_EQ(result.standardError, "tsplpreview: /dev/stdout: is no regular file\n");
+}
+
 TEST(PreviewFailure, APictureDoesNotTakeThePlaceOfWhatIsNoFile) {
     const TemporaryFolder folder;
     ASSERT_EQ(mkfifo(folder.path("p-1.png").c_str(), 0600), 0);

@@ -121,6 +121,17 @@ TEST_F(Follow, OfAPipeEndsWhereItsWriterEnds) {
     preview.endInput();
     EXPECT_EQ(preview.output("\n"), "         4  HOME\n");
     EXPECT_EQ(preview.status(), 0);
+    EXPECT_EQ(preview.errors("\n"), "");
+}
+
+TEST_F(Follow, OfAPipeReadsItOnceAndSumsItUpOnce) {
+    RunningPreview preview(folder, {"--follow", "--check", "--label", "1"});
+    preview.write("SIZE 1,1\nBAR 0,0,9,9\nPRINT 1\n");
+    preview.endInput();
+    EXPECT_EQ(preview.output("\n"), "standard input: 1 label, no complaints\n");
+    EXPECT_EQ(preview.status(), 0);
+    EXPECT_EQ(preview.output("\n"), "");
+    EXPECT_EQ(preview.errors("\n"), "");
 }
 
 TEST_F(Follow, OfASilentPipeEndsWithASignal) {

@@ -53,6 +53,25 @@ TEST(Findings, OfOneLabelAreCounted) {
               "label.tspl: and 2 more times: unknown command: SPIN\n");
 }
 
+// As where a serial number grows.
+TEST(Findings, OfOtherLabelsThatDifferInNumbersAreCounted) {
+    EXPECT_EQ(listed("SIZE 1,1\nFEED x9\nFEED x10\nBAR 0,0,9,9\nPRINT 1\n"
+                     "FEED x11\nPRINT 1\nFEED x12\nFEED x13\nFEED x14\nPRINT 1\n",
+                     false),
+              "label.tspl: line 2, byte 9: FEED does not take \"x9\"\n"
+              "label.tspl: line 3, byte 17: FEED does not take \"x10\"\n"
+              "label.tspl: line 10, byte 81: FEED does not take \"x14\"\n"
+              "label.tspl: and 2 more labels, with other numbers: FEED does not take \"x9\"\n"
+              "label.tspl: and 1 more label, with other numbers: FEED does not take \"x10\"\n");
+}
+
+TEST(Findings, OfOneLabelThatDifferInNumbersAreToldApart) {
+    EXPECT_EQ(listed("FEED x1\nFEED x2\nFEED x1\n", false),
+              "label.tspl: line 1, byte 0: FEED does not take \"x1\"\n"
+              "label.tspl: line 2, byte 8: FEED does not take \"x2\"\n"
+              "label.tspl: and 1 more time: FEED does not take \"x1\"\n");
+}
+
 TEST(Findings, AreCountedInTheOrderInWhichTheyWereFoundFirst) {
     EXPECT_EQ(listed("SPIN\nTURN\nTURN\nSPIN\n", false),
               "label.tspl: line 1, byte 0: unknown command: SPIN\n"
@@ -83,16 +102,16 @@ TEST(Findings, OfMoreKindsThanAreKeptAreWrittenEachTime) {
     std::string stream;
     for (int round = 0; round < 2; ++round) {
         for (int i = 0; i < 1002; ++i) {
-            stream += "X" + std::to_string(i) + "\n";
+            stream += "FEED X" + std::to_string(i) + "\n";
         }
     }
     const std::string text = listed(stream, false);
     const auto lines = std::count(text.begin(), text.end(), '\n');
     EXPECT_EQ(lines, 1002 + 2 + 1000);
-    EXPECT_NE(text.find("line 2003, byte 9792: unknown command: X1000\n"), std::string::npos)
+    EXPECT_NE(text.find("line 2003, byte 19802: FEED does not take \"X1000\"\n"), std::string::npos)
         << text.substr(text.find("X1000"), 400);
-    EXPECT_NE(text.find("and 1 more time: unknown command: X999\n"), std::string::npos);
-    EXPECT_EQ(text.find("and 1 more time: unknown command: X1000\n"), std::string::npos);
+    EXPECT_NE(text.find("and 1 more time: FEED does not take \"X999\"\n"), std::string::npos);
+    EXPECT_EQ(text.find("and 1 more time: FEED does not take \"X1000\"\n"), std::string::npos);
 }
 
 TEST(Findings, StandOnLinesOfPrintableAsciiOnly) {

@@ -39,5 +39,15 @@ TEST(PictureNames, ThatFilesHaveThemselvesAreNotMadeUp) {
               (Names{"a_2", "a", "a_3", "a_2_2"}));
 }
 
+TEST(PictureName, IsItsBeginningAHyphenANumberAndItsEnding) {
+    EXPECT_TRUE(isPictureName("a", "a-1.png"));
+    EXPECT_TRUE(isPictureName("a", "./a-12.png"));
+    EXPECT_TRUE(isPictureName("/usr/a", "/usr/../usr/a-1.png"));
+    for (const char* file : {"a.png", "a-.png", "a-1.tspl", "a-x.png", "b-1.png", "aa-1.png",
+                             "/usr/a-1.png", "-", "", "a-1"}) {
+        EXPECT_FALSE(isPictureName("a", file)) << file;
+    }
+}
+
 }  // namespace
 }  // namespace preview

@@ -14,7 +14,7 @@ TEST(BasicStatement, IsALoopAConditionAJumpALabelOrAnAssignment) {
     for (const char* line :
          {"FOR I=1 TO 10", "NEXT", "IF A$=\"x\" THEN", "ELSE", "ENDIF", "WHILE A<3", "WEND",
           "GOTO AGAIN", "GOSUB SUB", "RETURN", "LET A=1", "INPUT \"name\",A$", "A=1", "A$=\"1\"",
-          "LINE$ = A$+B$", "B(3)=4", ":AGAIN", "for i=1 to 3"}) {
+          "LINE$ = A$+B$", "B(3)=4", ":AGAIN", "for i=1 to 3", "EXITDO"}) {
         EXPECT_TRUE(isBasic(line)) << line;
     }
     for (const char* line :
@@ -32,6 +32,27 @@ TEST(BasicStatement, IsListedAsNotRun) {
     RecordingSink sink;
     obeyStream("NEXT\n", sink);
     EXPECT_EQ(sink.entries.at(0).remark, "not run");
+}
+
+TEST(BasicStatement, LetsCommandsTakeItsVariablesWithoutComplaints) {
+    EXPECT_EQ(findingsOf("SIZE 1,1\nCLS\nX=10\nINPUT \"at\",Y$\nFOR I=1 TO 3\nBAR X,10,20,20\n"
+                         "BARCODE x+4,50,\"128\",40,1,0,2,2,\"A\"\nBOX 1,Y,40,40,2\nNEXT\n"
+                         "PRINT I,1\n"),
+              Texts{"remark 13 BASIC statements are not run"});
+}
+
+TEST(BasicStatement, GivesNoOtherNameAValue) {
+    EXPECT_EQ(
+        findingsOf("SIZE 1,1\nX=10\nINPUT \"Y\",Z\nBAR Y,10,20,20\n"),
+        (Texts{"remark 9 BASIC statements are not run", "complaint 26 BAR does not take \"Y\""}));
+    EXPECT_EQ(findingsOf("IF X=1 THEN\nBAR X,10,20,20\n").size(), 2U);
+}
+
+TEST(BasicStatement, PrintsALabelOnceWhereAVariableSaysHowOften) {
+    RecordingSink sink;
+    obeyStream("SIZE 1,1\nN=3\nBAR 1,1,9,9\nPRINT N\n", sink);
+    ASSERT_EQ(sink.labels.size(), 1U);
+    EXPECT_EQ(sink.entries.back().remark, "drawn once");
 }
 
 TEST(BasicStatement, OfAStoredProgramIsStored) {

@@ -113,10 +113,30 @@ TEST(CompressedBitmap, OfAnotherChecksumIsComplainedOfWhereverItIsCut) {
 }
 
 // The checksum of what is left out is not looked at: it may take long to come to it.
-TEST(CompressedBitmap, OfMoreThanThePictureAndAnotherChecksumIsNotComplainedOf) {
+TEST(CompressedBitmap, OfMoreThanThePictureIsComplainedOfWhateverItsChecksum) {
+    const Texts expected{"complaint 22 the data of BITMAP in mode 3 hold more than the picture"};
     std::string data = compressed("\xF0\x01\x02"s);
+    EXPECT_EQ(findingsOf(labelOf(bitmapOf("0,0,2,1", data))), expected);
     data.back() ^= 1;
-    EXPECT_EQ(findingsOf(labelOf(bitmapOf("0,0,2,1", data))), Texts{});
+    EXPECT_EQ(findingsOf(labelOf(bitmapOf("0,0,2,1", data))), expected);
+    const std::string large = compressed(std::string(20'000'000, '\xFF'));
+    EXPECT_EQ(findingsOf(labelOf(bitmapOf("0,0,2,1", large))), expected);
+}
+
+// A length that is too large takes the commands behind the picture for data.
+TEST(CompressedBitmap, ThatEndsBeforeItsLengthIsComplainedOf) {
+    const std::string data = compressed("\xF0\x01"s);
+    const std::string behind = "\nCLS\nPRINT 1\n";
+    EXPECT_EQ(findingsOf(labelOf(bitmapOf("0,0,2,1", data + behind))),
+              Texts{"complaint 22 the data of BITMAP in mode 3 end behind " +
+                    std::to_string(data.size()) + " of " +
+                    std::to_string(data.size() + behind.size()) + " bytes; the others are lost"});
+}
+
+TEST(CompressedBitmap, HasItsShareOfBurntDotsFromThePicture) {
+    RecordingSink sink;
+    obeyStream(bitmapOf("0,0,2,3", compressed("\xFF\xF0\x00\x00\x00\x00"s)), sink);
+    EXPECT_DOUBLE_EQ(sink.entries.at(0).bitmap->burntShare(), 0.25);
 }
 
 TEST(CompressedBitmap, ThatIsCutShortIsComplainedOf) {

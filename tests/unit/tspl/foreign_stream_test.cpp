@@ -81,6 +81,21 @@ TEST(ForeignStream, BehindTsplIsComplainedOfOnceUpToTheNextCommand) {
                      "complaint 32 this is no TSPL: it looks like ZPL"}));
 }
 
+TEST(ForeignStream, OfNoKnownKindIsComplainedOfTenTimesAndOnce) {
+    std::string rows;
+    for (int i = 0; i < 3000; ++i) {
+        rows += "row," + std::to_string(i) + "\n";
+    }
+    const Texts findings = findingsOf(rows);
+    ASSERT_EQ(findings.size(), 11U);
+    EXPECT_EQ(findings[9], "complaint 54 unknown command: row,9");
+    EXPECT_EQ(findings[10],
+              "complaint 60 no command here either: up to the next one no more is said");
+    // A command that is known begins the count anew.
+    EXPECT_EQ(findingsOf(rows + "CLS\nFOO\n" + std::string(70000, 'x') + "\n").size(), 13U);
+    EXPECT_EQ(findingsOf(rows + std::string(70000, 'x') + "\n").size(), 11U);
+}
+
 TEST(ForeignStream, BehindTsplHidesNoCommandOfTheLabel) {
     RecordingSink sink;
     obeyStream("SIZE 4,6\nCLS\n^XA\n^XZ\nBAR 0,0,8,8\nPRINT 1\n", sink);

@@ -42,8 +42,8 @@ TEST(Complaint, IsMadeOfWrongArguments) {
 }
 
 TEST(Complaint, IsMadeOfALabelThatIsTooLarge) {
-    EXPECT_EQ(findingsIn("SIZE 9000,9000"),
-              complaint("a label of this size is too large to draw: SIZE 9000,9000"));
+    EXPECT_EQ(findingsIn("SIZE 9000 mm,9000 mm"),
+              complaint("a label of this size is too large to draw: SIZE 9000 mm,9000 mm"));
 }
 
 TEST(Complaint, IsMadeOfADirectionBeyondZeroAndOne) {
@@ -139,9 +139,9 @@ TEST(Complaint, IsMadeOfALabelWithoutASize) {
 }
 
 TEST(Complaint, IsMadeOfARefusedLabelAtItsSizeAndAtItsPrint) {
-    EXPECT_EQ(findingsOf("SIZE 9000,9000\nBAR 0,0,9,9\nPRINT 1\n"),
-              (Texts{"complaint 0 a label of this size is too large to draw: SIZE 9000,9000",
-                     "complaint 27 the label has no size that can be drawn"}));
+    EXPECT_EQ(findingsOf("SIZE 9 mm,999999 mm\nBAR 0,0,9,9\nPRINT 1\n"),
+              (Texts{"complaint 0 a label of this size is too large to draw: SIZE 9 mm,999999 mm",
+                     "complaint 32 the label has no size that can be drawn"}));
 }
 
 TEST(Complaint, IsMadeWhenMoreThanOneOfTearPeelAndCutterIsOn) {
@@ -186,7 +186,38 @@ TEST(Complaint, IsMadeOfDotsOutsideTheLabel) {
     EXPECT_EQ(findingsOf("SIZE 8 dot,2 dot\nBITMAP 0,-1,1,1,0,\xFE\nPRINT 1\n"),
               Texts{"complaint 17 1 dot lies outside the label and is cut off"});
     EXPECT_EQ(findingsOf("SIZE 0.1,0.1\nBAR 20,0,1,1\nBAR 90,0,1,1\nPRINT 1\n"),
-              Texts{"complaint 13 2" + text});
+              (Texts{"complaint 13 2" + text,
+                     "complaint 26 BAR reaches beyond the label, too: to dot 91"}));
+}
+
+TEST(Complaint, OfDotsOutsideIsMadeOfEveryCommandThatReachesOverAnEdge) {
+    EXPECT_EQ(findingsOf("SIZE 8 dot,8 dot\nBAR 7,0,2,1\nBOX -2,-1,9,12,1\nBAR 1,1,1,1\n"
+                         "REVERSE 0,7,1,2\nPRINT 1\n"),
+              (Texts{"complaint 17 45 dots lie outside the label and are cut off",
+                     "complaint 29 BOX reaches beyond the label, too: from dot -2 and from row -1 "
+                     "and to dot 9 and to row 12",
+                     "complaint 58 REVERSE reaches beyond the label, too: to row 9"}));
+    // Too wide already, which is said once.
+    EXPECT_EQ(
+        findingsOf("SIZE 8 dot,8 dot\nBAR 7,0,2,1\nBITMAP 0,1,2,1,0,\x01\x01PRINT 1\n").size(), 2U);
+}
+
+// At 600 dpi the label has 600 dots, at 203 dpi it would end before either bar does.
+TEST(Complaint, OfDotsOutsideIsMadeAtTheResolutionThatTheLabelTurnsOutToHave) {
+    const std::string bars = "SIZE 1,1\nBAR 590,0,10,1\nBAR 590,0,11,1\n";
+    const std::string bitmap = "BITMAP 0,9,75,1,0," + std::string(75, '\xFF') + "\n";
+    EXPECT_EQ(findingsOf(bars + bitmap + "PRINT 1\n"),
+              Texts{"complaint 24 1 dot lies outside the label and is cut off"});
+}
+
+TEST(Complaint, OfDotsOutsideIsMadeOfAThousandCommandsAtMost) {
+    std::string stream = "SIZE 8 dot,8 dot\n";
+    for (int i = 0; i < 1002; ++i) {
+        stream += "BAR 8,0,1,1\n";
+    }
+    const Texts findings = findingsOf(stream + "BAR 8,0,5,1\nPRINT 1\n");
+    ASSERT_EQ(findings.size(), 1000U);
+    EXPECT_TRUE(findings.back().ends_with(" BAR reaches beyond the label, too: to dot 13"));
 }
 
 TEST(Complaint, OfDotsOutsideIsMadeForEachPrint) {
@@ -222,7 +253,8 @@ TEST(Complaint, IsMadeOfAnyNumberOfDotsOutside) {
     for (int i = 0; i < 5; ++i) {
         stream += "BAR 20,0,2147483647,2147483647\n";
     }
-    EXPECT_EQ(findingsOf(stream + "PRINT 1\n").size(), 1U);
+    EXPECT_EQ(findingsOf(stream + "PRINT 1\n").at(0),
+              "complaint 29 18446744073709551615 dots lie outside the label and are cut off");
 }
 
 TEST(Complaint, IsMadeOfAnUnknownModeOfABitmap) {

@@ -156,5 +156,16 @@ TEST(TextFindings, ForgetTextsThatAreCleared) {
         1U);
 }
 
+// U+100000 is nobody's character.
+TEST(TextFindings, TellOfCharactersThatNoFontHas) {
+    const std::string box =
+        "remark 15 TEXT holds characters that no font of this system has; boxes "
+        "stand for them";
+    const std::string alike = "remark 15 TEXT is drawn in a font that is only alike";
+    EXPECT_EQ(findingsOf("CODEPAGE UTF-8\nTEXT 0,0,\"3\",0,1,1,\"a\xF4\x80\x80\x80\"\n"),
+              (Texts{alike, box}));
+    EXPECT_EQ(findingsOf("CODEPAGE UTF-8\nTEXT 0,0,\"3\",0,1,1,\"a\xC3\xA4 b\"\n"), Texts{alike});
+}
+
 }  // namespace
 }  // namespace tspl
