@@ -1,5 +1,7 @@
 #include "preview/findings_listing.h"
 
+#include <algorithm>
+
 #include "preview/label_words.h"
 
 namespace preview {
@@ -9,15 +11,16 @@ namespace {
 // written whenever it is found.
 constexpr std::size_t mostTexts = 1000;
 
-// The text with each of its numbers as a #.
+// The text with each of its numbers as a byte that no text has.
 std::string shapeOf(const std::string& text) {
+    constexpr char number = '\0';
     std::string shape;
     for (const char c : text) {
         const bool isDigit = c >= '0' && c <= '9';
         if (!isDigit) {
             shape += c;
-        } else if (shape.empty() || shape.back() != '#') {
-            shape += '#';
+        } else if (shape.empty() || shape.back() != number) {
+            shape += number;
         }
     }
     return shape;
@@ -57,29 +60,38 @@ void FindingsListing::endLabel() {
     ++label_;
     isComplainedOf_ = false;
     texts_.clear();
-    shapes_.clear();
 }
 
-// A label's texts of one shape are numbered: its second one is told apart from its first one, and
-// is like the second one of another label.
+// Of an earlier label the same words, else the first ones that differ in numbers, none of them
+// twice on a label.
+std::optional<std::size_t> FindingsListing::findEarlier(const std::string& text) const {
+    const auto isFree = [this](std::size_t place) { return found_[place].lastLabel != label_; };
+    if (const auto same = places_.find(text); same != places_.end() && isFree(same->second)) {
+        return same->second;
+    }
+    const auto alike = shapes_.find(shapeOf(text));
+    if (alike == shapes_.end()) {
+        return std::nullopt;
+    }
+    const auto first = std::find_if(alike->second.begin(), alike->second.end(), isFree);
+    return first == alike->second.end() ? std::nullopt : std::optional(*first);
+}
+
 std::optional<std::size_t> FindingsListing::findRepeated(const std::string& text) {
     if (const auto known = texts_.find(text); known != texts_.end()) {
         return known->second;
     }
-    std::string shape = shapeOf(text);
-    shape += '\n' + std::to_string(++shapes_[shape]);
-    const auto known = places_.find(shape);
-    if (known == places_.end() && found_.size() == mostTexts) {
+    const auto earlier = findEarlier(text);
+    if (!earlier && found_.size() == mostTexts) {
         return std::nullopt;
     }
-    const std::size_t place = known == places_.end() ? found_.size() : known->second;
-    texts_.emplace(text, place);
-    if (known != places_.end()) {
-        return place;
+    texts_.emplace(text, earlier.value_or(found_.size()));
+    if (!earlier) {
+        places_.emplace(text, found_.size());
+        shapes_[shapeOf(text)].push_back(found_.size());
+        found_.push_back({text, label_});
     }
-    places_.emplace(shape, place);
-    found_.push_back({text, label_});
-    return std::nullopt;
+    return earlier;
 }
 
 bool FindingsListing::isRepeated(const std::string& text) {

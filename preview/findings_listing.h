@@ -44,6 +44,7 @@ private:
         bool otherNumbers = false;
     };
     bool isRepeated(const std::string& text);
+    [[nodiscard]] std::optional<std::size_t> findEarlier(const std::string& text) const;
     [[nodiscard]] std::optional<std::size_t> findRepeated(const std::string& text);
     void writeSize(const tspl::PrintedLabel& label);
     void endLabel();
@@ -55,10 +56,11 @@ private:
     bool isComplainedOf_ = false;  ///< the label under way
     std::string size_;             ///< that was told last
     std::vector<Repeat> found_;
-    std::unordered_map<std::string, std::size_t> places_;  ///< in `found_`, of numbered shapes
-    std::unordered_map<std::string, std::size_t>
-        texts_;  ///< of this label: their place in `found_`
-    std::unordered_map<std::string, std::uint64_t> shapes_;  ///< of this label: how many texts
+    std::unordered_map<std::string, std::size_t> places_;  ///< of texts in `found_`
+    /// The same for texts without their numbers.
+    std::unordered_map<std::string, std::vector<std::size_t>> shapes_;
+    /// Of the label under way: what its texts repeat, by place in `found_`.
+    std::unordered_map<std::string, std::size_t> texts_;
 };
 
 }  // namespace preview

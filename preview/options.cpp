@@ -3,7 +3,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 #include <iostream>
 #include <sstream>
 
@@ -172,18 +171,8 @@ void checkTogether(const RawOptions& raw) {
     }
 }
 
-// A recording cannot be made again: no output takes its place, nor that of another output.
 void checkOutputs(const Options& options) {
-    std::error_code none;
     for (const Source& source : options.sources) {
-        if (options.pdf && std::filesystem::equivalent(*options.pdf, source.file, none)) {
-            throw CLI::ValidationError("--pdf", "is the stream itself: " + source.file);
-        }
-        for (const Source& other : options.sources) {
-            if (options.writesPictures && isPictureName(source.pictures, other.file)) {
-                throw CLI::ValidationError("FILE", "a picture would take its place: " + other.file);
-            }
-        }
         if (options.pdf && options.writesPictures && isPictureName(source.pictures, *options.pdf)) {
             throw CLI::ValidationError("--pdf", "is the name of a picture: " + *options.pdf);
         }

@@ -1,5 +1,6 @@
 #include "preview/preview_job.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -12,6 +13,7 @@
 #include "preview/json_listing.h"
 #include "preview/output_buffer.h"
 #include "preview/stream_preview.h"
+#include "preview/unfinished_file.h"
 
 namespace preview {
 namespace {
@@ -25,6 +27,7 @@ public:
     }
 
     int run() {
+        keepStreams();
         if (options_.listing == Listing::Json) {
             JsonListing::writeSchema(output_);
         }
@@ -45,6 +48,17 @@ public:
     }
 
 private:
+    // All of them, before the first picture is written.
+    void keepStreams() const {
+        for (const Source& source : options_.sources) {
+            struct stat status {};
+            if ((source.isStandardInput() ? fstat(STDIN_FILENO, &status)
+                                          : stat(source.file.c_str(), &status)) == 0) {
+                keepFile(status);
+            }
+        }
+    }
+
     // What is written nowhere is not read either.
     [[nodiscard]] bool isWritable() const { return buffer_.error().empty(); }
 

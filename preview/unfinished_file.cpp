@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
+#include <set>
+#include <utility>
 
 namespace preview {
 namespace {
@@ -20,6 +22,13 @@ std::string behindLinks(const std::string& name) {
     return path.string();
 }
 
+std::set<std::pair<dev_t, ino_t>> sKept;
+
+bool isKept(const std::string& name) {
+    struct stat status {};
+    return stat(name.c_str(), &status) == 0 && sKept.contains({status.st_dev, status.st_ino});
+}
+
 // A file that is complete takes the place of what has its name, which must be a file, too.
 std::string whyNotReplaced(const std::string& name) {
     std::error_code none;
@@ -31,6 +40,10 @@ std::string whyNotReplaced(const std::string& name) {
 }
 
 }  // namespace
+
+void keepFile(const struct stat& status) {
+    sKept.emplace(status.st_dev, status.st_ino);
+}
 
 UnfinishedFile::UnfinishedFile(const std::string& name)
     : given_(name), name_(behindLinks(name)), part_(name_ + ".part") {}
@@ -46,6 +59,9 @@ std::string UnfinishedFile::open() {
     // A link of the system to a pipe leads to what has no name.
     if (std::string why = whyNotReplaced(given_); !why.empty()) {
         return why;
+    }
+    if (isKept(name_) || isKept(part_)) {
+        return "would take the place of a stream that is read";
     }
     // Before there is a file, so that no signal comes in between.
     removal_.emplace(part_.c_str());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/stat.h>
+
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -8,6 +10,9 @@
 #include "preview/ending_signals.h"
 
 namespace preview {
+
+/// Keeps a file, by its status, from being replaced: a stream that is read cannot be made again.
+void keepFile(const struct stat& status);
 
 /// A file that gets its name when it is complete: a write that fails or is interrupted leaves a
 /// file of that name as it was. Until then it is called name.part, which is removed when it is not
@@ -20,8 +25,8 @@ public:
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
     ~UnfinishedFile();
 
-    /// Begins the file. Returns why it could not, as where a device has its name; empty when it
-    /// could.
+    /// Begins the file. Returns why it could not, as where a device has its name or a file that is
+    /// kept; empty when it could.
     std::string open();
 
     /// The open file.

@@ -1,7 +1,9 @@
 #include "tspl/basic_variables.h"
 
 #include <algorithm>
+#include <span>
 
+#include "tspl/length.h"
 #include "tspl/text.h"
 
 namespace tspl {
@@ -18,6 +20,33 @@ bool isLetter(char c) {
 
 bool isOfName(char c) {
     return isLetter(c) || (c >= '0' && c <= '9') || c == '_';
+}
+
+// What is done on a condition: behind THEN, or behind ELSE alone.
+std::string_view behindCondition(std::string_view name, std::string_view rest) {
+    constexpr std::string_view word = "THEN";
+    const auto then = upperCase(rest).find(word);
+    if (then != std::string::npos) {
+        return rest.substr(then + word.size());
+    }
+    return name == "ELSE" ? rest : std::string_view();
+}
+
+bool isOneOf(std::span<const CommandRule> family, const CommandRule& rule) {
+    return std::any_of(family.begin(), family.end(),
+                       [&rule](const CommandRule& one) { return one.name == rule.name; });
+}
+
+bool takesNumbers(const CommandRule& rule) {
+    return rule.kind != ArgumentKind::Any || isOneOf(textCommands(), rule) ||
+           isOneOf(codeCommands(), rule);
+}
+
+// QRCODE x,y,level,cell width,mode: letters, also where variables have their names.
+bool isLetterOfCode(const Command& command, std::size_t index) {
+    constexpr std::size_t level = 2;
+    constexpr std::size_t mode = 4;
+    return command.name == "QRCODE" && (index == level || index == mode);
 }
 
 // Names outside quotation marks, in capitals.
@@ -45,6 +74,8 @@ void BasicVariables::note(const Command& statement) {
         noteNamesIn(rest);
     } else if (rest.find_first_of("=$(") == 0) {
         noteNamesIn(statement.name);
+    } else if (statement.name == "IF" || statement.name == "ELSE" || statement.name == "ELSEIF") {
+        noteNamesIn(behindCondition(statement.name, rest));
     }
 }
 
@@ -62,15 +93,20 @@ bool BasicVariables::areIn(std::string_view argument) const {
     return found;
 }
 
-bool BasicVariables::areUsedBy(const Command& command, const CommandRule& rule) const {
-    constexpr std::size_t place = 2;
-    const std::size_t numbers = rule.kind == ArgumentKind::Any
-                                    ? std::min(place, command.arguments.size())
-                                    : command.arguments.size();
-    return !names_.empty() &&
-           std::any_of(command.arguments.begin(),
-                       command.arguments.begin() + static_cast<std::ptrdiff_t>(numbers),
-                       [this](const std::string& argument) { return areIn(argument); });
+std::optional<Command> BasicVariables::withoutThem(const Command& command,
+                                                   const CommandRule& rule) const {
+    if (names_.empty() || !takesNumbers(rule)) {
+        return std::nullopt;
+    }
+    std::optional<Command> result;
+    for (std::size_t i = 0; i < command.arguments.size(); ++i) {
+        const std::string& argument = command.arguments[i];
+        if (!parseLength(argument) && !isLetterOfCode(command, i) && areIn(argument)) {
+            result = result ? result : command;
+            result->arguments[i].assign(1, '1');
+        }
+    }
+    return result;
 }
 
 }  // namespace tspl

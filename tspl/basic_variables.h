@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "tspl/command.h"
 #include "tspl/command_rules.h"
@@ -11,12 +13,15 @@ namespace tspl {
 /// The variables that statements of BASIC give values to. What the values are is not known.
 class BasicVariables {
 public:
-    /// Takes notice of the variables of a statement: an assignment, FOR, LET, DIM, INPUT or READ.
+    /// Takes notice of the variables of a statement: an assignment, FOR, LET, DIM, INPUT or READ,
+    /// or one of these behind THEN or ELSE.
     void note(const Command& statement);
 
-    /// Whether a number that the command takes hangs on one of the variables: any of its arguments,
-    /// or, where the rule takes other things than numbers as well, its place.
-    [[nodiscard]] bool areUsedBy(const Command& command, const CommandRule& rule) const;
+    /// The command with 1 for each number that hangs on one of the variables; nothing where none
+    /// does. Numbers are what a rule of numbers takes, and what a text or a code takes outside of
+    /// quotation marks.
+    [[nodiscard]] std::optional<Command> withoutThem(const Command& command,
+                                                     const CommandRule& rule) const;
 
 private:
     void noteNamesIn(std::string_view text);

@@ -99,6 +99,7 @@ void Label::clear() {
     widest_ = {};
     highest_ = {};
     drawn_.clear();
+    farthest_ = {};
     lacksMarks_ = false;
 }
 
@@ -116,11 +117,26 @@ void Label::noteDrawn(const Place& place, std::string_view name) {
     if (extent.right <= extent.left || !mayReachOver(extent)) {
         return;
     }
+    const Extent before = farthest_;
+    farthest_.add(extent);
     constexpr std::size_t most = 1000;
-    if (drawn_.size() == most) {
-        drawn_.back().extent.add(extent);
-    } else {
+    const bool reachesFarther = farthest_ != before && drawn_.size() < 2 * most;
+    if (drawn_.size() < most || reachesFarther) {
         drawn_.push_back({place, std::string(name), extent});
+    }
+}
+
+void Label::noteErased(const Area& area) {
+    std::erase_if(drawn_, [&area](const Drawn& drawn) {
+        const Extent& extent = drawn.extent;
+        return extent.left >= area.x && extent.top >= area.y &&
+               extent.right <= area.x + area.width && extent.bottom <= area.y + area.height;
+    });
+}
+
+void Label::noteTold(const LabelDots& dots) {
+    for (Drawn& drawn : drawn_) {
+        drawn.isTold = drawn.isTold || reachesOver(drawn.extent, dots.width, dots.height);
     }
 }
 

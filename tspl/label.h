@@ -70,10 +70,17 @@ public:
         Place place;
         std::string name;
         Extent extent;
+        bool isTold = false;  ///< with an earlier print of the label
     };
-    /// The commands that have drawn over an edge of a label of this size. Of a thousand and more
-    /// the last one stands for all that follow.
+    /// The commands that have drawn over an edge of a label of this size. Of more than a thousand
+    /// that may have only those are kept that reach farther than all before them.
     [[nodiscard]] std::vector<Drawn> overhanging(const LabelDots& dots) const;
+
+    /// Forgets what lies within an area that is made bare.
+    void noteErased(const Area& area);
+
+    /// Takes notice that the commands over the edges have been spoken of.
+    void noteTold(const LabelDots& dots);
 
     /// The size of the label as it is printed now. Without a SIZE it ends where the last dot
     /// does. 0 dots wide or high when the label was refused or no size can be told.
@@ -109,6 +116,7 @@ private:
     Overhang widest_;
     Overhang highest_;
     std::vector<Drawn> drawn_;  ///< what may reach over an edge
+    Extent farthest_;           ///< of all that may
     bool refused_ = false;
     bool lacksMarks_ = false;
 };

@@ -45,26 +45,35 @@ std::string beyond(const Extent& extent, const LabelDots& dots) {
     return text;
 }
 
-// The first command bears the number of dots; a bitmap that is too large has been complained of.
+std::string ofDotsOutside(std::uint64_t outside) {
+    return outside == 1 ? "1 dot lies outside the label and is cut off"
+                        : std::to_string(outside) + " dots lie outside the label and are cut off";
+}
+
+// The first command bears the number of dots; a bitmap that is too large has been complained of. A
+// label may be printed again and again: of the others each is spoken of once.
 void reportOutside(Printer& printer, const Command& command, const LabelDots& dots,
                    std::uint64_t outside) {
     const auto overhanging = printer.label.overhanging(dots);
-    printer.complain(overhanging.empty() ? command : overhanging.front().place,
-                     outside == 1
-                         ? "1 dot lies outside the label and is cut off"
-                         : std::to_string(outside) + " dots lie outside the label and are cut off");
+    const auto isNew = [](const Label::Drawn& drawn) { return !drawn.isTold; };
+    const auto newest = std::find_if(overhanging.begin(), overhanging.end(), isNew);
+    const auto first = newest != overhanging.end() ? newest : overhanging.begin();
+    const Place place = first != overhanging.end() ? first->place : command;
+    printer.complain(place, ofDotsOutside(outside));
     const auto widest = printer.label.widestOverhang(dots);
     const auto highest = printer.label.highestOverhang(dots);
-    for (std::size_t i = 1; i < overhanging.size(); ++i) {
-        const Label::Drawn& drawn = overhanging[i];
+    for (const Label::Drawn& drawn : overhanging) {
         const auto isOf = [&drawn](const std::optional<Label::Overhang>& overhang) {
             return overhang && overhang->place.offset == drawn.place.offset;
         };
-        if (!isOf(widest) && !isOf(highest)) {
+        const bool isSpokenOf =
+            drawn.isTold || drawn.place.offset == place.offset || isOf(widest) || isOf(highest);
+        if (!isSpokenOf) {
             printer.complain(drawn.place, drawn.name + " reaches beyond the label, too: " +
                                               beyond(drawn.extent, dots));
         }
     }
+    printer.label.noteTold(dots);
 }
 
 void printLabel(Printer& printer, const Command& command, std::int32_t sets, std::int32_t copies) {

@@ -71,8 +71,8 @@ std::string PrinterModel::obey(const Command& command) {
         return refuse(command);
     }
     noteCommand();
-    if (variables_.areUsedBy(command, *rule)) {
-        return passOverVariables(command);
+    if (const auto known = variables_.withoutThem(command, *rule)) {
+        return passOverVariables(*known, *rule);
     }
     if (const auto fault = findFault(*rule, command)) {
         printer_.complain(command, *fault);
@@ -93,35 +93,43 @@ std::string PrinterModel::refuse(const Command& command) {
     if (isBasicStatement(command)) {
         return passOverBasic(command);
     }
+    if (command.name == "BITMAP") {
+        noteCommand();
+        printer_.label.noteUndrawn();
+        printer_.complain(
+            command,
+            "BITMAP needs two positions, a width, a height, a mode and data: " + quoted(command));
+        return "not understood";
+    }
     if (isInForeignPart_) {
         return "unknown";
     }
     if (const auto format = foreignBeginning(command.text); !format.empty()) {
         complainOfForeign(command, format);
         isInForeignPart_ = true;
-        return "unknown";
-    }
-    const bool badBitmap = command.name == "BITMAP";
-    if (!badBitmap && ++unknownLines_ > mostUnknownLines) {
+    } else if (++unknownLines_ > mostUnknownLines) {
         printer_.complain(command, "no command here either: up to the next one no more is said");
         isInForeignPart_ = true;
-        return "unknown";
+    } else {
+        printer_.complain(command, "unknown command: " + quoted(command));
     }
-    printer_.complain(command, (badBitmap ? "BITMAP needs two positions, a width, a height, a "
-                                            "mode and data: "
-                                          : "unknown command: ") +
-                                   quoted(command));
-    return badBitmap ? "not understood" : "unknown";
+    return "unknown";
 }
 
-// A label is printed, however often.
-std::string PrinterModel::passOverVariables(const Command& command) {
+// What else is wrong with it is wrong whatever the variables hold. A label is printed, however
+// often, and one of an unknown size has none.
+std::string PrinterModel::passOverVariables(const Command& known, const CommandRule& rule) {
+    if (const auto fault = findFault(rule, known)) {
+        printer_.complain(known, *fault);
+        return "not understood";
+    }
     printer_.label.noteUndrawn();
-    if (command.name == "PRINT") {
-        Command once = command;
-        once.arguments = {"1"};
-        findRule(once.name)->obey(printer_, once);
+    if (rule.name == "PRINT") {
+        rule.obey(printer_, known);
         return "drawn once";
+    }
+    if (rule.name == "SIZE") {
+        printer_.label = Label(printer_.options.dpi, printer_.options.mostDots);
     }
     return "not run";
 }

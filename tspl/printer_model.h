@@ -37,7 +37,7 @@ private:
     [[nodiscard]] std::string obey(const Command& command);
     [[nodiscard]] std::string refuse(const Command& command);
     [[nodiscard]] std::string passOverBasic(const Command& command);
-    [[nodiscard]] std::string passOverVariables(const Command& command);
+    [[nodiscard]] std::string passOverVariables(const Command& known, const CommandRule& rule);
     [[nodiscard]] bool isForeign(const Command& command);
     void noteCommand();
     void complainOfForeign(const Command& command, std::string_view format);

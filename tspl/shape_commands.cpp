@@ -29,6 +29,9 @@ void changeArea(Printer& printer, const Command& command) {
         return;
     }
     (printer.label.canvas().*change)(area);
+    if constexpr (change == &DotCanvas::erase) {
+        printer.label.noteErased(area);
+    }
 }
 
 // What no label has room for would take long to draw.

@@ -51,26 +51,52 @@ TEST(PreviewCommandLine, StandardInputIsDrawnAsLabel) {
     }
 }
 
-TEST(PreviewCommandLine, NoOutputTakesThePlaceOfAStreamOrOfAnotherOutput) {
+TEST(PreviewCommandLine, NoOutputTakesThePlaceOfAStream) {
     const TemporaryFolder folder;
     const std::string stream = smallLabel(letterBitmap);
-    folder.write("a-1.png", stream);
-    folder.write("job", stream);
-    std::filesystem::create_symlink("job", folder.path("other"));
-    for (const std::vector<std::string>& arguments :
-         std::vector<std::vector<std::string>>{{"-o", "a", "a-1.png"},
-                                               {"-o", "./a", "job", "a-1.png", "--list", "-o", "a"},
-                                               {"--pdf", "job", "job"},
-                                               {"--pdf", "other", "job"},
-                                               {"--pdf", "x-1.png", "-o", "x", "job"}}) {
-        const FilterResult result = runPreview(folder, arguments);
-        EXPECT_EQ(result.status, 2);
-        EXPECT_EQ(result.standardOutput, "");
-        EXPECT_NE(result.standardError, "");
+    const std::string named[] = {"a-1.png", "job", "x.part", "b-1.png.part"};
+    for (const std::string& name : named) {
+        folder.write(name, stream);
     }
-    EXPECT_EQ(folder.names(), (Names{"a-1.png", "job", "other"}));
-    EXPECT_EQ(readFile(folder.path("job")), stream);
-    EXPECT_EQ(readFile(folder.path("a-1.png")), stream);
+    namespace fs = std::filesystem;
+    fs::create_symlink("job", folder.path("other"));
+    fs::create_symlink("job", folder.path("c-1.png"));
+    fs::create_symlink("a-1.png", folder.path("in"));
+    const Names before = folder.names();
+    for (const char* arguments :
+         {"-o a a-1.png", "-o ./a a-1.png", "-o a in", "-o a <a-1.png", "-o c job", "--pdf job job",
+          "--pdf other job", "--pdf job <job", "--pdf x x.part", "-o b b-1.png.part"}) {
+        const FilterResult result =
+            runFilter(shellCall(folder, std::string("\"$PREVIEW\" ") + arguments));
+        EXPECT_EQ(result.status, 1) << arguments;
+        EXPECT_NE(result.standardError.find("would take the place of a stream that is read"),
+                  std::string::npos)
+            << arguments << result.standardError;
+        EXPECT_EQ(folder.names(), before) << arguments;
+        for (const std::string& name : named) {
+            EXPECT_EQ(readFile(folder.path(name)), stream) << name << " of " << arguments;
+        }
+    }
+}
+
+// The first one is drawn before the second one is opened.
+TEST(PreviewCommandLine, NoPictureTakesThePlaceOfALaterStream) {
+    const TemporaryFolder folder;
+    const std::string stream = smallLabel(letterBitmap);
+    folder.write("job", stream);
+    folder.write("job-1.png", stream);
+    const FilterResult result = runPreview(folder, {"job", "job-1.png"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(readFile(folder.path("job-1.png")), stream);
+    EXPECT_EQ(folder.names(), (Names{"job", "job-1.png", "job-1-1.png"}));
+}
+
+TEST(PreviewCommandLine, ThePdfDoesNotTakeThePlaceOfAPicture) {
+    const TemporaryFolder folder;
+    folder.write("job", smallLabel(letterBitmap));
+    const FilterResult result = runPreview(folder, {"--pdf", "x-1.png", "-o", "x", "job"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(folder.names(), Names{"job"});
 }
 
 TEST(PreviewCommandLine, APipeIsDrawnAsAFileIs) {

@@ -65,6 +65,19 @@ TEST(Findings, OfOtherLabelsThatDifferInNumbersAreCounted) {
               "label.tspl: and 1 more label, with other numbers: FEED does not take \"x10\"\n");
 }
 
+TEST(Findings, OfOtherLabelsInTheSameWordsAreNotTakenForOthers) {
+    EXPECT_EQ(listed("SIZE 1,1\nBAR 0,0,9,9\nFEED x1\nFEED x2\nPRINT 1\nFEED x2\nPRINT 1\n"
+                     "FEED x2\nFEED x1\nPRINT 1\n",
+                     false),
+              "label.tspl: line 3, byte 21: FEED does not take \"x1\"\n"
+              "label.tspl: line 4, byte 29: FEED does not take \"x2\"\n"
+              "label.tspl: and 1 more label: FEED does not take \"x1\"\n"
+              "label.tspl: and 2 more labels: FEED does not take \"x2\"\n");
+    EXPECT_EQ(listed("SIZE 1,1\nBAR 0,0,9,9\nFEED 1a\nPRINT 1\nFEED #a\nPRINT 1\n", false),
+              "label.tspl: line 3, byte 21: FEED does not take \"1a\"\n"
+              "label.tspl: line 5, byte 37: FEED does not take \"#a\"\n");
+}
+
 TEST(Findings, OfOneLabelThatDifferInNumbersAreToldApart) {
     EXPECT_EQ(listed("FEED x1\nFEED x2\nFEED x1\n", false),
               "label.tspl: line 1, byte 0: FEED does not take \"x1\"\n"

@@ -46,6 +46,38 @@ TEST(BasicStatement, GivesNoOtherNameAValue) {
         findingsOf("SIZE 1,1\nX=10\nINPUT \"Y\",Z\nBAR Y,10,20,20\n"),
         (Texts{"remark 9 BASIC statements are not run", "complaint 26 BAR does not take \"Y\""}));
     EXPECT_EQ(findingsOf("IF X=1 THEN\nBAR X,10,20,20\n").size(), 2U);
+    EXPECT_EQ(findingsOf("IF X=1 THEN Y=2 ELSE Z=3\nBAR Y,Z,20,20\n").size(), 1U);
+}
+
+TEST(BasicStatement, ChangesNoUnitNoWordAndNoLetterOfACode) {
+    const std::string variables = "MM=8\nON=1\nF=1\nL=1\nA=1\n";  // 22 bytes
+    EXPECT_EQ(findingsOf(variables + "SIZE 40 mm,20 mm\nCLS\nBAR 10,10,400,5\nSET TEAR ON\n"
+                                     "SET CUTTER ON\nPRINT 1\n"),
+              (Texts{"remark 0 BASIC statements are not run",
+                     "complaint 85 more than one of SET TEAR, SET PEEL and SET CUTTER is on",
+                     "complaint 43 450 dots lie outside the label and are cut off"}));
+    RecordingSink sink;
+    obeyStream(
+        variables + "SIZE 1,1\nQRCODE 0,0,L,2,A,0,\"A\"\nDOWNLOAD F,\"A.BAS\"\nPRINT 1\nEOP\n",
+        sink);
+    EXPECT_EQ(sink.findings, Texts{"remark 0 BASIC statements are not run"});
+    EXPECT_EQ(sink.entries.at(6).remark, "");
+    EXPECT_TRUE(sink.labels.empty());
+}
+
+TEST(BasicStatement, HidesNoOtherFaultOfACommand) {
+    const std::string start = "X=10\nSIZE 2,2\n";  // 14 bytes
+    for (const char* line : {"TEXT X,10,\"3\",0,1,1,\"abc", "BARCODE X,10,\"12", "BAR X,1",
+                             "BAR 1,Z,9,X", "BOX X,1,2,3,4,5,6,7,8"}) {
+        EXPECT_EQ(findingsOf(start + line + "\n").size(), 2U) << line;
+    }
+    EXPECT_EQ(findingsOf(start + "BARCODE 1,1,\"128\",X,1,0,2,2,\"A\"\nQRCODE 1,1,L,x,A,0,\"a\"\n"),
+              Texts{"remark 0 BASIC statements are not run"});
+}
+
+TEST(BasicStatement, OfASizeLeavesTheLabelWithout) {
+    EXPECT_EQ(findingsOf("W=3\nSIZE 1,1\nSIZE W,2\nBAR 0,0,500,9\nPRINT 1\n"),
+              Texts{"remark 0 BASIC statements are not run"});
 }
 
 TEST(BasicStatement, PrintsALabelOnceWhereAVariableSaysHowOften) {

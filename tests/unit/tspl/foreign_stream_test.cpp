@@ -94,6 +94,8 @@ TEST(ForeignStream, OfNoKnownKindIsComplainedOfTenTimesAndOnce) {
     // A command that is known begins the count anew.
     EXPECT_EQ(findingsOf(rows + "CLS\nFOO\n" + std::string(70000, 'x') + "\n").size(), 13U);
     EXPECT_EQ(findingsOf(rows + std::string(70000, 'x') + "\n").size(), 11U);
+    // So does one that is not understood.
+    EXPECT_EQ(findingsOf(rows + "BITMAP 0,0,1\nFOO\n").size(), 13U);
 }
 
 TEST(ForeignStream, BehindTsplHidesNoCommandOfTheLabel) {

@@ -210,14 +210,40 @@ TEST(Complaint, OfDotsOutsideIsMadeAtTheResolutionThatTheLabelTurnsOutToHave) {
               Texts{"complaint 24 1 dot lies outside the label and is cut off"});
 }
 
-TEST(Complaint, OfDotsOutsideIsMadeOfAThousandCommandsAtMost) {
+// Of more only those that reach farther than all before.
+TEST(Complaint, OfDotsOutsideIsMadeOfAThousandCommandsAndOfThoseThatReachFarther) {
     std::string stream = "SIZE 8 dot,8 dot\n";
     for (int i = 0; i < 1002; ++i) {
         stream += "BAR 8,0,1,1\n";
     }
     const Texts findings = findingsOf(stream + "BAR 8,0,5,1\nPRINT 1\n");
-    ASSERT_EQ(findings.size(), 1000U);
+    ASSERT_EQ(findings.size(), 1001U);
     EXPECT_TRUE(findings.back().ends_with(" BAR reaches beyond the label, too: to dot 13"));
+}
+
+// Strips that end at the edge may turn out to reach over it, and these do not.
+TEST(Complaint, OfDotsOutsideIsMadeOfNoSoundCommandHoweverManyThereAre) {
+    std::string stream = "SIZE 1,1\n";
+    for (int i = 0; i < 1100; ++i) {
+        stream += "BITMAP 0,1,75,1,1," + std::string(75, '\0') + "\n";
+    }
+    const Texts findings = findingsOf(stream + "BOX 500,90,700,190,1\nBAR 0,590,9,20\nPRINT 1\n");
+    ASSERT_EQ(findings.size(), 2U);
+    const std::size_t box = 9 + std::size_t{1100} * (18 + 75 + 1);
+    EXPECT_TRUE(findings[0].starts_with("complaint " + std::to_string(box) + " ")) << findings[0];
+    EXPECT_EQ(findings[1], "complaint " + std::to_string(box + 21) +
+                               " BAR reaches beyond the label, too: to row 610");
+}
+
+TEST(Complaint, OfDotsOutsideIsMadeOnceOfEachCommandAndOfNoneThatIsErased) {
+    EXPECT_EQ(findingsOf("SIZE 8 dot,8 dot\nBAR 8,0,1,1\nBAR 8,2,1,1\nPRINT 1\nPRINT 1\n"),
+              (Texts{"complaint 17 2 dots lie outside the label and are cut off",
+                     "complaint 29 BAR reaches beyond the label, too: to dot 9",
+                     "complaint 17 2 dots lie outside the label and are cut off"}));
+    EXPECT_EQ(
+        findingsOf("SIZE 8 dot,8 dot\nBAR 8,0,1,1\nPRINT 1\nERASE 0,0,9,9\nBAR 8,2,1,1\nPRINT 1\n"),
+        (Texts{"complaint 17 1 dot lies outside the label and is cut off",
+               "complaint 51 1 dot lies outside the label and is cut off"}));
 }
 
 TEST(Complaint, OfDotsOutsideIsMadeForEachPrint) {
