@@ -244,6 +244,12 @@ TEST(Complaint, OfDotsOutsideIsMadeOnceOfEachCommandAndOfNoneThatIsErased) {
         findingsOf("SIZE 8 dot,8 dot\nBAR 8,0,1,1\nPRINT 1\nERASE 0,0,9,9\nBAR 8,2,1,1\nPRINT 1\n"),
         (Texts{"complaint 17 1 dot lies outside the label and is cut off",
                "complaint 51 1 dot lies outside the label and is cut off"}));
+    EXPECT_EQ(findingsOf("SIZE 8 dot,8 dot\nBAR 8,0,1,1\nERASE 8,0,1,1\nBAR 8,2,1,1\nPRINT 1\n"),
+              Texts{"complaint 43 1 dot lies outside the label and is cut off"});
+    // What is left of it counts.
+    EXPECT_EQ(findingsOf("SIZE 8 dot,8 dot\nBAR 8,0,1,2\nERASE 8,0,1,1\nBAR 8,2,1,1\nPRINT 1\n"),
+              (Texts{"complaint 17 2 dots lie outside the label and are cut off",
+                     "complaint 43 BAR reaches beyond the label, too: to dot 9"}));
 }
 
 TEST(Complaint, OfDotsOutsideIsMadeForEachPrint) {
