@@ -102,6 +102,7 @@ private:
                     fail(nameOf(source), error);
                     return;
                 }
+                keepStreams();
             } else {
                 tell(source, "the file has become shorter and is read from its start");
                 input.rewind();

@@ -92,7 +92,7 @@ print_document() {
 
     echo
     echo "Printed $document to $name.tspl (log: $name.log)"
-    # Pictures show what is complained of. The others complain in the same words.
+    # What is complained of is told once, and drawn all the same: the pictures show it.
     "$previewer" --check "$name.tspl" || sound=
     "$previewer" --list "$name.tspl" 2>/dev/null
     echo "Pictures of the labels:"

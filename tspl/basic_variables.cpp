@@ -72,10 +72,10 @@ void BasicVariables::note(const Command& statement) {
     if (std::find(std::begin(sStatements), std::end(sStatements), statement.name) !=
         std::end(sStatements)) {
         noteNamesIn(rest);
-    } else if (rest.find_first_of("=$(") == 0) {
-        noteNamesIn(statement.name);
     } else if (statement.name == "IF" || statement.name == "ELSE" || statement.name == "ELSEIF") {
         noteNamesIn(behindCondition(statement.name, rest));
+    } else if (rest.find_first_of("=$(") == 0) {
+        noteNamesIn(statement.name);
     }
 }
 
@@ -102,7 +102,9 @@ std::optional<Command> BasicVariables::withoutThem(const Command& command,
     for (std::size_t i = 0; i < command.arguments.size(); ++i) {
         const std::string& argument = command.arguments[i];
         if (!parseLength(argument) && !isLetterOfCode(command, i) && areIn(argument)) {
-            result = result ? result : command;
+            if (!result) {
+                result = command;
+            }
             result->arguments[i].assign(1, '1');
         }
     }

@@ -47,6 +47,7 @@ TEST(BasicStatement, GivesNoOtherNameAValue) {
         (Texts{"remark 9 BASIC statements are not run", "complaint 26 BAR does not take \"Y\""}));
     EXPECT_EQ(findingsOf("IF X=1 THEN\nBAR X,10,20,20\n").size(), 2U);
     EXPECT_EQ(findingsOf("IF X=1 THEN Y=2 ELSE Z=3\nBAR Y,Z,20,20\n").size(), 1U);
+    EXPECT_EQ(findingsOf("IF (X=1) THEN Y=2\nBAR Y,1,20,20\n").size(), 1U);
 }
 
 TEST(BasicStatement, ChangesNoUnitNoWordAndNoLetterOfACode) {
